@@ -1,0 +1,17 @@
+// Vantrel: annotation callouts drawn into a host's pixel buffers.
+// Every public type of the library, and nothing else.
+#pragma once
+
+#include <vantrel/values/Bitmap.h>
+#include <vantrel/values/Color.h>
+#include <vantrel/values/Matrix3x3.h>
+#include <vantrel/values/Point.h>
+#include <vantrel/values/Polygon.h>
+#include <vantrel/values/Range.h>
+#include <vantrel/values/Rect.h>
+
+#include <vantrel/drawing/CrossPlatformDrawingContext.h>
+#include <vantrel/drawing/DrawingContext.h>
+
+#include <vantrel/callouts/BaseCallout.h>
+#include <vantrel/callouts/Shapes.h>
