@@ -64,6 +64,13 @@ void applyStrokeStyle(cairo_t *cr, std::string const &style, double w) {
     cairo_set_dash(cr, pattern, count, 0.0);
 }
 
+bool keepsInvertible(cairo_t *cr, double det) {
+    cairo_matrix_t ctm;
+    cairo_get_matrix(cr, &ctm);
+    double combined = (ctm.xx * ctm.yy - ctm.xy * ctm.yx) * det;
+    return std::isfinite(combined) && combined != 0.0;
+}
+
 } // namespace CairoUtil
 
 using namespace CairoUtil;
@@ -113,13 +120,13 @@ Polygons single(Polygon const &polygon) {
     return list;
 }
 
-// The unit circle under the ellipse's scale. A rect without area would need a
-// singular transform, which puts cairo into an error state for good, so such
-// an ellipse adds nothing.
+// The unit circle under the ellipse's scale. A rect without area, or one so
+// large that the scale overflows, would need a transform cairo refuses, so
+// such an ellipse adds nothing.
 void addEllipse(cairo_t *cr, Rect const &rect) {
     double w = rect.Width(), h = rect.Height();
-    if (!(std::isfinite(w) && std::isfinite(h) && std::isfinite(rect.Left()) && std::isfinite(rect.Top())) ||
-        w == 0.0 || h == 0.0)
+    if (!std::isfinite(rect.Left() + w * 0.5) || !std::isfinite(rect.Top() + h * 0.5) ||
+        !keepsInvertible(cr, w * 0.5 * h * 0.5))
         return;
     cairo_save(cr);
     cairo_translate(cr, rect.Left() + w * 0.5, rect.Top() + h * 0.5);
@@ -190,8 +197,7 @@ void CrossPlatformDrawingContext::AddArcToCurrentPath(Point const &center, Point
     // cut to under two turns with the same end point.
     if (endAngle - startAngle > 2 * kTwoPi)
         endAngle = startAngle + kTwoPi + std::fmod(endAngle - startAngle, kTwoPi);
-    double det = xAxis ^ yAxis;
-    if (det == 0.0 || !std::isfinite(det)) {
+    if (!keepsInvertible(cr, xAxis ^ yAxis)) {
         // The ellipse has collapsed to a segment or a point. cairo would refuse
         // the singular transform (and stop drawing altogether), so the arc is
         // traced by its mapped points instead.
@@ -250,7 +256,7 @@ void CrossPlatformDrawingContext::Translate(Point const &offset) {
 }
 
 void CrossPlatformDrawingContext::Scale(Point const &factors) {
-    if (finite(factors) && factors.x != 0.0 && factors.y != 0.0)
+    if (finite(factors) && keepsInvertible(impl->cr, factors.x * factors.y))
         cairo_scale(impl->cr, factors.x, factors.y);
 }
 
@@ -424,7 +430,7 @@ cairo_surface_t *wrap(Bitmap const &bitmap) {
 
 void CrossPlatformDrawingContext::DrawBitmap(Bitmap const &bitmap, Rect const &target, double alpha) {
     Point scale = target.Size().DividedBy(Point(bitmap.width(), bitmap.height()));
-    if (!finite(scale) || scale.x == 0.0 || scale.y == 0.0 || !finite(target.topLeft))
+    if (!finite(scale) || !finite(target.topLeft) || !keepsInvertible(impl->cr, scale.x * scale.y))
         return; // a target without area shows nothing
     cairo_surface_t *source = wrap(bitmap);
     if (!source)

@@ -28,6 +28,10 @@ void applyStrokeStyle(cairo_t *cr, std::string const &style, double w);
 // are capped far beyond any drawable size, where cairo's pen would need an
 // unbounded number of vertices.
 double safeWidth(double w);
+// Whether multiplying the current transform by a matrix of determinant det
+// keeps it invertible in doubles. cairo refuses a transform that does not
+// and stays in an error state for the rest of the context's life.
+bool keepsInvertible(cairo_t *cr, double det);
 
 } // namespace CairoUtil
 

@@ -4,6 +4,7 @@
 #include <vantrel/values/Rect.h>
 
 #include <boost/shared_ptr.hpp>
+#include <initializer_list>
 #include <vector>
 
 namespace Vantrel {
@@ -16,6 +17,7 @@ struct Polygon {
 
     Polygon() = default;
     explicit Polygon(std::vector<Point> pts) : points(std::move(pts)) {}
+    Polygon(std::initializer_list<Point> pts) : points(pts) {}
     // (left, top), (right, top), (right, bottom), (left, bottom).
     explicit Polygon(Rect const &r);
 

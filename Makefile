@@ -1,0 +1,52 @@
+# Entry points. Each one installs missing Debian packages first.
+PREFIX ?= /usr/local
+JOBS ?= 2
+
+CMAKE_FLAGS := -DCMAKE_BUILD_TYPE=RelWithDebInfo
+SANITIZE_FLAGS := -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG="-O1 -g" -DVANTREL_BUILD_TOOLS=OFF
+# Leaks reported from inside third-party process-wide caches are listed here, each with its reason.
+SANITIZE_ENV := ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 \
+                LSAN_OPTIONS=suppressions=$(CURDIR)/tests/sanitizer/lsan.supp:print_suppressions=0 \
+                UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
+
+.PHONY: all deps build test test-plain test-asan test-tsan gallery bench install clean
+
+all: build
+
+deps:
+	@scripts/install-deps
+
+build: deps
+	@cmake -S . -B build $(CMAKE_FLAGS) > /dev/null
+	@cmake --build build -j $(JOBS)
+
+test: test-plain test-asan test-tsan
+
+test-plain: build
+	cd build && ctest -j $(JOBS) --output-on-failure
+
+test-asan: deps
+	@cmake -S . -B build-asan $(SANITIZE_FLAGS) -DVANTREL_SANITIZE=address,undefined > /dev/null
+	@cmake --build build-asan -j $(JOBS)
+	cd build-asan && $(SANITIZE_ENV) ctest -j $(JOBS) --output-on-failure
+
+test-tsan: deps
+	@cmake -S . -B build-tsan $(SANITIZE_FLAGS) -DVANTREL_SANITIZE=thread -DVANTREL_ONLY_THREADED_TESTS=ON > /dev/null
+	@cmake --build build-tsan -j $(JOBS)
+	cd build-tsan && TSAN_OPTIONS=halt_on_error=1 ctest -j $(JOBS) -L threaded --output-on-failure
+
+gallery: build
+	build/tools/vantrel/vantrel gallery -o gallery.png
+	@echo "wrote gallery.png"
+
+bench: deps
+	@cmake -S . -B build-bench -DCMAKE_BUILD_TYPE=Release -DVANTREL_BUILD_BENCH=ON -DVANTREL_BUILD_TESTS=OFF \
+	    -DVANTREL_BUILD_TOOLS=OFF > /dev/null
+	@cmake --build build-bench -j $(JOBS)
+	@scripts/run-benchmarks build-bench/bench
+
+install: build
+	cmake --install build --prefix $(PREFIX)
+
+clean:
+	rm -rf build build-asan build-tsan build-bench gallery.png

@@ -1,0 +1,219 @@
+#include "Gallery.h"
+
+#include <vantrel/Vantrel.h>
+
+#include <cairo.h>
+#include <cmath>
+#include <functional>
+#include <memory>
+#include <vector>
+
+using namespace Vantrel;
+
+namespace VantrelTool {
+
+namespace {
+
+int const kCellWidth = 190;
+int const kCellHeight = 150;
+int const kLabelHeight = 22;
+int const kColumns = 6;
+int const kTitleHeight = 34;
+int const kMargin = 16;
+
+// A tile draws around the origin, in a box of about 160 by 110.
+using DrawTile = std::function<void(CrossPlatformDrawingContext &)>;
+
+struct Tile {
+    std::string label;
+    DrawTile draw;
+};
+
+struct Section {
+    std::string title;
+    std::vector<Tile> tiles;
+};
+
+Color const kInk(0.15f, 0.2f, 0.35f);
+Color const kBlue(0.2f, 0.45f, 0.85f);
+Color const kOrange(1.0f, 0.6f, 0.1f);
+Color const kRed(0.85f, 0.15f, 0.2f);
+Color const kGreen(0.2f, 0.7f, 0.35f);
+Rect const kBox(-70, -45, 70, 45);
+
+void drawCallout(CrossPlatformDrawingContext &c, BaseCallout const &callout) {
+    callout.drawIntoContext(&c, BaseCallout::DrawOptionAll, Rect(), -1, nullptr);
+}
+
+Tile ovalTile(std::string label, std::string fillStyle, Point direction, double strokeWidth,
+              std::string strokeStyle, Color fill = kBlue) {
+    return {label, [=](CrossPlatformDrawingContext &c) {
+                drawCallout(c, OvalShape(fill, fillStyle, direction, kInk, strokeWidth, strokeStyle, kBox));
+            }};
+}
+
+Polygon starPolygon(double outer, double inner, int points) {
+    Polygon star;
+    for (int i = 0; i < 2 * points; ++i) {
+        double r = i % 2 ? inner : outer;
+        star.points.push_back(Point::FromAngle(-M_PI / 2 + M_PI * i / points) * r);
+    }
+    return star;
+}
+
+std::vector<Section> sections() {
+    std::vector<Section> all;
+    all.push_back({"Ovals: solid and gradient fills",
+                   {ovalTile("solid", "solid", Point(0, 1), 0, "solid"),
+                    ovalTile("gradient (0,1)", "gradient", Point(0, 1), 0, "solid"),
+                    ovalTile("gradient (1,0)", "gradient", Point(1, 0), 0, "solid"),
+                    ovalTile("gradient (1,1)", "gradient", Point(1, 1), 0, "solid", kOrange),
+                    ovalTile("gradient (-1,0.3)", "gradient", Point(-1, 0.3), 0, "solid", kGreen),
+                    ovalTile("half transparent", "solid", Point(0, 1), 3, "solid", Color(0.85f, 0.15f, 0.2f, 0.5f))}});
+    all.push_back({"Ovals: the five stroke styles at width 4",
+                   {ovalTile("solid", "gradient", Point(0, 1), 4, "solid", kOrange),
+                    ovalTile("dash", "gradient", Point(0, 1), 4, "dash", kOrange),
+                    ovalTile("dot", "gradient", Point(0, 1), 4, "dot", kOrange),
+                    ovalTile("dashdot", "gradient", Point(0, 1), 4, "dashdot", kOrange),
+                    ovalTile("dashdotdot", "gradient", Point(0, 1), 4, "dashdotdot", kOrange),
+                    ovalTile("width 12, dash", "solid", Point(0, 1), 12, "dash", Color(1, 1, 1))}});
+
+    Polygon star = starPolygon(55, 22, 5);
+    Polygon outer(Rect(-60, -45, 60, 45));
+    Polygon inner = Polygon(Rect(-30, -20, 30, 20)).Reversed();
+    all.push_back(
+        {"Polygons, lines and rectangles",
+         {{"filled star, dashed",
+           [=](CrossPlatformDrawingContext &c) {
+               c.Fill(kGreen, star);
+               c.Stroke(kInk, 3, "dash", star);
+           }},
+          {"inner square fills solid",
+           [=](CrossPlatformDrawingContext &c) {
+               Polygons both;
+               both.Add(outer);
+               both.Add(inner);
+               c.Fill(kRed, both);
+               c.Stroke(kInk, 1.5, "solid", both);
+           }},
+          {"gradient polygon",
+           [=](CrossPlatformDrawingContext &c) {
+               c.Fill(makeGradientPattern(kBlue, star.BoundingRect(), Point(1, 1)), star);
+           }},
+          {"lines: butt and round caps",
+           [](CrossPlatformDrawingContext &c) {
+               c.DrawLine(Point(-60, -25), Point(60, -25), kInk, 14, false);
+               c.DrawLine(Point(-60, 20), Point(60, 20), kBlue, 14, true);
+           }},
+          {"rectangle outline",
+           [](CrossPlatformDrawingContext &c) {
+               c.DrawRectangle(kRed, Rect(-60.5, -40.5, 60.5, 40.5));
+           }},
+          {"miter corner of 3 degrees",
+           [](CrossPlatformDrawingContext &c) {
+               Polygon sharp({Point(-75, 30), Point(10, 27.8), Point(-75, 25.6)});
+               c.Stroke(kInk, 2, "solid", sharp);
+           }}}});
+
+    all.push_back(
+        {"Pixels: clear, blend and bitmaps",
+         {{"clear to transparent in a clip",
+           [](CrossPlatformDrawingContext &c) {
+               drawCallout(c, OvalShape(kOrange, "gradient", Point(0, 1), kInk, 3, "solid", kBox));
+               c.Save();
+               c.SetClip(Rect(-25, -30, 25, 30));
+               c.Clear(Color(0, 0, 0, 0));
+               c.Restore();
+           }},
+          {"blend with alpha 0.5",
+           [](CrossPlatformDrawingContext &c) {
+               // Two pixel buffers of the tile's size, blended directly.
+               CrossPlatformDrawingContextWithBuiltInBitmap base(180, 120);
+               base.builtInBitmap()->clear();
+               base.Translate(Point(90, 60));
+               drawCallout(base, OvalShape(kBlue, "solid", Point(0, 1), kInk, 2, "solid", Rect(-80, -50, 20, 50)));
+               std::unique_ptr<DrawingContext> top(base.CreateBlankClone());
+               top->Translate(Point(90, 60));
+               OvalShape(kRed, "solid", Point(0, 1), kInk, 2, "solid", Rect(-20, -50, 80, 50))
+                   .drawIntoContext(top.get(), BaseCallout::DrawOptionAll, Rect(), -1, nullptr);
+               base.BlendWith(top.get(), 0.5);
+               c.DrawBitmap(*base.builtInBitmap(), Point(-90, -60), 1.0);
+           }},
+          {"bitmap scaled 3x",
+           [](CrossPlatformDrawingContext &c) {
+               CrossPlatformDrawingContextWithBuiltInBitmap small(40, 30);
+               small.builtInBitmap()->clear();
+               drawCallout(small, OvalShape(kGreen, "gradient", Point(1, 1), kInk, 1, "solid", Rect(2, 2, 38, 28)));
+               c.DrawBitmap(*small.builtInBitmap(), Rect(-60, -45, 60, 45), 1.0);
+           }},
+          {"bitmap at alpha 0.4",
+           [](CrossPlatformDrawingContext &c) {
+               CrossPlatformDrawingContextWithBuiltInBitmap small(120, 90);
+               small.Clear(kRed);
+               c.DrawBitmap(*small.builtInBitmap(), Point(-60, -45), 0.4);
+           }}}});
+    return all;
+}
+
+void drawCheckerboard(cairo_t *cr, int width, int height) {
+    cairo_save(cr);
+    cairo_set_source_rgb(cr, 1, 1, 1);
+    cairo_paint(cr);
+    cairo_set_source_rgb(cr, 0.85, 0.85, 0.87);
+    for (int y = 0; y < height; y += 10)
+        for (int x = (y / 10 % 2) * 10; x < width; x += 20)
+            cairo_rectangle(cr, x, y, 10, 10);
+    cairo_fill(cr);
+    cairo_restore(cr);
+}
+
+void drawLabel(cairo_t *cr, std::string const &text, double x, double y, double size, bool bold) {
+    cairo_save(cr);
+    cairo_select_font_face(cr, "DejaVu Sans", CAIRO_FONT_SLANT_NORMAL,
+                           bold ? CAIRO_FONT_WEIGHT_BOLD : CAIRO_FONT_WEIGHT_NORMAL);
+    cairo_set_font_size(cr, size);
+    cairo_set_source_rgb(cr, 0.1, 0.1, 0.1);
+    cairo_move_to(cr, x, y);
+    cairo_show_text(cr, text.c_str());
+    cairo_restore(cr);
+}
+
+} // namespace
+
+bool writeGallery(std::string const &path) {
+    std::vector<Section> all = sections();
+    int height = kMargin;
+    for (Section const &s : all)
+        height += kTitleHeight + int((s.tiles.size() + kColumns - 1) / kColumns) * kCellHeight;
+    int width = 2 * kMargin + kColumns * kCellWidth;
+    height += kMargin;
+
+    CrossPlatformDrawingContextWithBuiltInBitmap page(width, height);
+    cairo_t *cr = page.Get();
+    drawCheckerboard(cr, width, height);
+
+    int y = kMargin;
+    for (Section const &s : all) {
+        drawLabel(cr, s.title, kMargin, y + 22, 16, true);
+        y += kTitleHeight;
+        for (size_t i = 0; i < s.tiles.size(); ++i) {
+            int x = kMargin + int(i % kColumns) * kCellWidth;
+            int top = y + int(i / kColumns) * kCellHeight;
+            // Each tile draws on a transparent bitmap of its own, so that what it
+            // clears or leaves transparent shows the checkerboard beneath.
+            CrossPlatformDrawingContextWithBuiltInBitmap tile(kCellWidth, kCellHeight - kLabelHeight);
+            tile.builtInBitmap()->clear();
+            tile.Translate(Point(kCellWidth / 2.0, (kCellHeight - kLabelHeight) / 2.0));
+            s.tiles[i].draw(tile);
+            page.DrawBitmap(*tile.builtInBitmap(), Point(x, top), 1.0);
+            drawLabel(cr, s.tiles[i].label, x + 8, top + kCellHeight - kLabelHeight + 12, 11, false);
+        }
+        y += int((s.tiles.size() + kColumns - 1) / kColumns) * kCellHeight;
+    }
+
+    cairo_surface_t *surface = cairo_get_target(cr);
+    cairo_surface_flush(surface);
+    return cairo_surface_write_to_png(surface, path.c_str()) == CAIRO_STATUS_SUCCESS;
+}
+
+} // namespace VantrelTool

@@ -1,0 +1,68 @@
+// vantrel: renders the library's callouts to PNG files.
+#include "Gallery.h"
+
+#include <cstring>
+#include <iostream>
+#include <string>
+#include <vector>
+
+namespace {
+
+char const *const kUsage = R"(usage: vantrel COMMAND [OPTIONS]
+
+Renders Vantrel callouts to PNG images.
+
+Commands:
+  gallery -o FILE.png   draw every callout the library has, on a checkerboard
+                        so that transparency shows, and write it to FILE.png
+  help                  show this text
+
+Options:
+  -h, --help            show this text
+)";
+
+int usageError(std::string const &message) {
+    std::cerr << "vantrel: " << message << " (see 'vantrel --help')\n";
+    return 2;
+}
+
+int runGallery(std::vector<std::string> const &args) {
+    std::string output;
+    for (size_t i = 0; i < args.size(); ++i) {
+        if (args[i] == "-h" || args[i] == "--help") {
+            std::cout << "usage: vantrel gallery -o FILE.png\n";
+            return 0;
+        }
+        if (args[i] == "-o" || args[i] == "--output") {
+            if (i + 1 >= args.size())
+                return usageError("option " + args[i] + " needs a file name");
+            output = args[++i];
+        } else {
+            return usageError("unknown option '" + args[i] + "' for gallery");
+        }
+    }
+    if (output.empty())
+        return usageError("gallery needs -o FILE.png");
+    if (!VantrelTool::writeGallery(output)) {
+        std::cerr << "vantrel: could not write '" << output << "'\n";
+        return 1;
+    }
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+    std::vector<std::string> args(argv + 1, argv + argc);
+    if (args.empty())
+        return usageError("missing command");
+    std::string command = args.front();
+    args.erase(args.begin());
+    if (command == "-h" || command == "--help" || command == "help") {
+        std::cout << kUsage;
+        return 0;
+    }
+    if (command == "gallery")
+        return runGallery(args);
+    return usageError("unknown command '" + command + "'");
+}
