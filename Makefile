@@ -33,7 +33,7 @@ test-asan: deps
 test-tsan: deps
 	@cmake -S . -B build-tsan $(SANITIZE_FLAGS) -DVANTREL_SANITIZE=thread -DVANTREL_ONLY_THREADED_TESTS=ON > /dev/null
 	@cmake --build build-tsan -j $(JOBS)
-	cd build-tsan && TSAN_OPTIONS=halt_on_error=1 ctest -j $(JOBS) -L threaded --output-on-failure
+	cd build-tsan && TSAN_OPTIONS=halt_on_error=1:suppressions=$(CURDIR)/tests/sanitizer/tsan.supp ctest -j $(JOBS) -L threaded --output-on-failure
 
 gallery: build
 	build/tools/vantrel/vantrel gallery -o gallery.png
