@@ -26,11 +26,11 @@ public:
     void ReportRuns(std::vector<Run> const &runs) override {
         for (Run const &run : runs)
             if (run.run_type == Run::RT_Iteration && !run.error_occurred)
-                nanoseconds[run.benchmark_name()] = run.GetAdjustedRealTime() *
-                                                    (run.time_unit == benchmark::kNanosecond    ? 1.0
-                                                     : run.time_unit == benchmark::kMicrosecond ? 1e3
-                                                     : run.time_unit == benchmark::kMillisecond ? 1e6
-                                                                                                : 1e9);
+                nanoseconds[run.benchmark_name()] =
+                    run.GetAdjustedRealTime() * (run.time_unit == benchmark::kNanosecond    ? 1.0
+                                                 : run.time_unit == benchmark::kMicrosecond ? 1e3
+                                                 : run.time_unit == benchmark::kMillisecond ? 1e6
+                                                                                            : 1e9);
         ConsoleReporter::ReportRuns(runs);
     }
     std::map<std::string, double> nanoseconds;

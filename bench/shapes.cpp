@@ -33,8 +33,8 @@ BENCHMARK(BM_OvalShape);
 // The same ellipse, filled and stroked by cairo directly.
 void BM_CairoEllipse(benchmark::State &state) {
     Target512 t;
-    cairo_surface_t *surface = cairo_image_surface_create_for_data(
-        static_cast<unsigned char *>(t.bitmap.bitmapData()), CAIRO_FORMAT_ARGB32, 512, 512, 512 * 4);
+    cairo_surface_t *surface = cairo_image_surface_create_for_data(static_cast<unsigned char *>(t.bitmap.bitmapData()),
+                                                                   CAIRO_FORMAT_ARGB32, 512, 512, 512 * 4);
     cairo_t *cr = cairo_create(surface);
     cairo_translate(cr, 256, 256);
     for (auto _ : state) {

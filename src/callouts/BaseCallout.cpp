@@ -46,8 +46,8 @@ GradientPattern makeGradientPattern(Color const &color, Rect const &rect, Point 
     return pattern;
 }
 
-void fillPolygonWithStyle(DrawingContext *context, Polygon const &polygon, Color const &color,
-                          std::string const &style, Rect const &rect, Point const &direction) {
+void fillPolygonWithStyle(DrawingContext *context, Polygon const &polygon, Color const &color, std::string const &style,
+                          Rect const &rect, Point const &direction) {
     if (style == "gradient")
         context->Fill(makeGradientPattern(color, rect, direction), polygon);
     else

@@ -86,9 +86,8 @@ cairo_surface_t *surfaceFor(Bitmap *bitmap) {
         return cairo_recording_surface_create(CAIRO_CONTENT_COLOR_ALPHA, nullptr);
     if (!bitmap->bitmapData() || bitmap->width() <= 0 || bitmap->height() <= 0)
         return cairo_image_surface_create(CAIRO_FORMAT_ARGB32, 0, 0);
-    return cairo_image_surface_create_for_data(static_cast<unsigned char *>(bitmap->bitmapData()),
-                                               CAIRO_FORMAT_ARGB32, bitmap->width(), bitmap->height(),
-                                               bitmap->bytesPerRow());
+    return cairo_image_surface_create_for_data(static_cast<unsigned char *>(bitmap->bitmapData()), CAIRO_FORMAT_ARGB32,
+                                               bitmap->width(), bitmap->height(), bitmap->bytesPerRow());
 }
 
 // Adds every polygon with at least 3 points as a closed subpath, all brought
@@ -189,8 +188,7 @@ void CrossPlatformDrawingContext::AddArcToCurrentPath(Point const &center, doubl
 void CrossPlatformDrawingContext::AddArcToCurrentPath(Point const &center, Point const &xAxis, Point const &yAxis,
                                                       double startAngle, double endAngle) {
     cairo_t *cr = impl->cr;
-    if (!finite(center) || !finite(xAxis) || !finite(yAxis) || !std::isfinite(startAngle) ||
-        !std::isfinite(endAngle))
+    if (!finite(center) || !finite(xAxis) || !finite(yAxis) || !std::isfinite(startAngle) || !std::isfinite(endAngle))
         return; // a non-finite arc adds nothing
     // cairo turns an end below the start into the next turn; beyond two turns
     // the arc looks the same but costs a segment run per turn, so the sweep is
@@ -421,9 +419,8 @@ namespace {
 cairo_surface_t *wrap(Bitmap const &bitmap) {
     if (!bitmap.bitmapData() || bitmap.width() <= 0 || bitmap.height() <= 0)
         return nullptr;
-    return cairo_image_surface_create_for_data(static_cast<unsigned char *>(bitmap.bitmapData()),
-                                               CAIRO_FORMAT_ARGB32, bitmap.width(), bitmap.height(),
-                                               bitmap.bytesPerRow());
+    return cairo_image_surface_create_for_data(static_cast<unsigned char *>(bitmap.bitmapData()), CAIRO_FORMAT_ARGB32,
+                                               bitmap.width(), bitmap.height(), bitmap.bytesPerRow());
 }
 
 } // namespace

@@ -45,9 +45,7 @@ uint32_t Color::ToPacked() const {
     return packChannel(alpha) << 24 | packChannel(red) << 16 | packChannel(green) << 8 | packChannel(blue);
 }
 
-Color Color::FromPango(PangoColor const &c) {
-    return Color(c.red / 65535.0f, c.green / 65535.0f, c.blue / 65535.0f);
-}
+Color Color::FromPango(PangoColor const &c) { return Color(c.red / 65535.0f, c.green / 65535.0f, c.blue / 65535.0f); }
 
 Color32 Color32::alphaMult(double k) const {
     return Color32(wrapByte(r * k), wrapByte(g * k), wrapByte(b * k), wrapByte(a * k));

@@ -23,8 +23,7 @@ RectInt RectInt::UnionRect(RectInt const &o) const {
         return *this;
     if (right == left || bottom == top)
         return o;
-    return RectInt(std::min(left, o.left), std::min(top, o.top), std::max(right, o.right),
-                   std::max(bottom, o.bottom));
+    return RectInt(std::min(left, o.left), std::min(top, o.top), std::max(right, o.right), std::max(bottom, o.bottom));
 }
 
 int Rect::IntWidth() const { return saturatingInt(std::floor(Width())); }
@@ -66,8 +65,8 @@ Rect Rect::BoundingRectOfPoints(std::vector<Point> const &points) {
 
 Rect Rect::FromPango(PangoRectangle const &r) {
     // Summed in 64 bits: a layout near the int range must not wrap.
-    return Rect(pango_units_to_double(r.x), pango_units_to_double(r.y),
-                double(int64_t(r.x) + r.width) / PANGO_SCALE, double(int64_t(r.y) + r.height) / PANGO_SCALE);
+    return Rect(pango_units_to_double(r.x), pango_units_to_double(r.y), double(int64_t(r.x) + r.width) / PANGO_SCALE,
+                double(int64_t(r.y) + r.height) / PANGO_SCALE);
 }
 
 std::ostream &operator<<(std::ostream &os, Rect const &r) {

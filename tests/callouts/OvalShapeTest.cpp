@@ -49,8 +49,8 @@ TEST(OvalShape, GradientRunsLightToDarkAlongItsDirection) {
         OvalShape oval(kBlue, "gradient", direction, kBlack, 0, "solid", Rect(-30, -40, 30, 40));
         Canvas canvas(60, 80);
         draw(oval, canvas, Point(30, 40));
-        EXPECT_GT(redAt(canvas, 30, 2), 70);    // lighter: red and green lifted towards 0.35
-        EXPECT_LT(redAt(canvas, 30, 39), 5);    // the colour itself in the middle
+        EXPECT_GT(redAt(canvas, 30, 2), 70); // lighter: red and green lifted towards 0.35
+        EXPECT_LT(redAt(canvas, 30, 39), 5); // the colour itself in the middle
         EXPECT_EQ(blueAt(canvas, 30, 39), 255);
         EXPECT_LT(blueAt(canvas, 30, 77), 180); // darker: blue towards 0.65
         EXPECT_GT(blueAt(canvas, 30, 2), blueAt(canvas, 30, 77));

@@ -18,7 +18,7 @@ int main() {
         Vantrel::OvalShape oval(Vantrel::Color(1, 0, 0), "solid", Vantrel::Point(0, 1), Vantrel::Color(0, 0, 0), 0,
                                 "solid", Vantrel::Rect(0, 0, 40, 14));
         oval.drawIntoContext(&context, Vantrel::BaseCallout::DrawOptionAll, Vantrel::Rect(), -1, nullptr);
-        int top = bottomUp ? height - 1 - 7 : 7;    // memory row of the visual row 7
+        int top = bottomUp ? height - 1 - 7 : 7; // memory row of the visual row 7
         int bottom = bottomUp ? height - 1 - 25 : 25;
         if (at(buffer, width, 20, top) != 0xFFFF0000u || at(buffer, width, 20, bottom) != 0u) {
             std::printf("%s buffer: unexpected pixels %08x %08x\n", bottomUp ? "bottom-up" : "top-down",

@@ -170,8 +170,7 @@ TEST(CairoContext, EllipsesArcsAndFlattening) {
     r.MoveToPointInCurrentPath(Point(20, 20));
     r.AddLineToCurrentPath(Point(30, 20));
     Polygon flat = r.FlattenedPath();
-    EXPECT_EQ(flat.points,
-              (std::vector<Point>{Point(0, 0), Point(10, 0), Point(10, 5), Point(20, 20), Point(30, 20)}));
+    EXPECT_EQ(flat.points, (std::vector<Point>{Point(0, 0), Point(10, 0), Point(10, 5), Point(20, 20), Point(30, 20)}));
     EXPECT_EQ(r.CurrentPointInPath(), Point(30, 20));
     r.StartPath();
     r.AddArcToCurrentPath(Point(0, 0), 10, 10, 0, M_PI);
@@ -221,9 +220,9 @@ TEST(CairoContext, GradientFillsFollowTheirLine) {
     canvas.context.Fill(g, Polygon(Rect(0, 0, 50, 100)));
     uint32_t top = canvas.at(25, 1), middle = canvas.at(25, 49), bottom = canvas.at(25, 98);
     EXPECT_EQ(middle & 0xFF, 255u);
-    EXPECT_GT((top >> 16) & 0xFF, 80u);    // light: red 0.35
-    EXPECT_LT((bottom >> 16) & 0xFF, 5u);  // dark: red 0
-    EXPECT_LT(bottom & 0xFF, 175u);        // dark: blue 0.65
+    EXPECT_GT((top >> 16) & 0xFF, 80u);   // light: red 0.35
+    EXPECT_LT((bottom >> 16) & 0xFF, 5u); // dark: red 0
+    EXPECT_LT(bottom & 0xFF, 175u);       // dark: blue 0.65
     EXPECT_GT(bottom & 0xFF, 155u);
 }
 

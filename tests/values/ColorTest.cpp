@@ -44,7 +44,7 @@ TEST(Color32, ArithmeticWrapsAtEightBits) {
     EXPECT_EQ(c.blendWith(transparent), c);
     Color32 half(50, 0, 0, 128);
     Color32 mixed = Color32(0, 200, 0, 255).blendWith(half);
-    EXPECT_EQ(mixed, Color32(50, 100, 0, 255)); // 200 * (1 - 128/255) = 99.6
+    EXPECT_EQ(mixed, Color32(50, 100, 0, 255));                                  // 200 * (1 - 128/255) = 99.6
     EXPECT_EQ(Color32(200, 0, 0, 200).blendWith(Color32(200, 0, 0, 100)).r, 66); // 321.6 wraps
 
     Color32 from(0, 100, 200, 10), to(255, 0, 100, 250);

@@ -45,8 +45,8 @@ void drawCallout(CrossPlatformDrawingContext &c, BaseCallout const &callout) {
     callout.drawIntoContext(&c, BaseCallout::DrawOptionAll, Rect(), -1, nullptr);
 }
 
-Tile ovalTile(std::string label, std::string fillStyle, Point direction, double strokeWidth,
-              std::string strokeStyle, Color fill = kBlue) {
+Tile ovalTile(std::string label, std::string fillStyle, Point direction, double strokeWidth, std::string strokeStyle,
+              Color fill = kBlue) {
     return {label, [=](CrossPlatformDrawingContext &c) {
                 drawCallout(c, OvalShape(fill, fillStyle, direction, kInk, strokeWidth, strokeStyle, kBox));
             }};
@@ -81,39 +81,35 @@ std::vector<Section> sections() {
     Polygon star = starPolygon(55, 22, 5);
     Polygon outer(Rect(-60, -45, 60, 45));
     Polygon inner = Polygon(Rect(-30, -20, 30, 20)).Reversed();
-    all.push_back(
-        {"Polygons, lines and rectangles",
-         {{"filled star, dashed",
-           [=](CrossPlatformDrawingContext &c) {
-               c.Fill(kGreen, star);
-               c.Stroke(kInk, 3, "dash", star);
-           }},
-          {"inner square fills solid",
-           [=](CrossPlatformDrawingContext &c) {
-               Polygons both;
-               both.Add(outer);
-               both.Add(inner);
-               c.Fill(kRed, both);
-               c.Stroke(kInk, 1.5, "solid", both);
-           }},
-          {"gradient polygon",
-           [=](CrossPlatformDrawingContext &c) {
-               c.Fill(makeGradientPattern(kBlue, star.BoundingRect(), Point(1, 1)), star);
-           }},
-          {"lines: butt and round caps",
-           [](CrossPlatformDrawingContext &c) {
-               c.DrawLine(Point(-60, -25), Point(60, -25), kInk, 14, false);
-               c.DrawLine(Point(-60, 20), Point(60, 20), kBlue, 14, true);
-           }},
-          {"rectangle outline",
-           [](CrossPlatformDrawingContext &c) {
-               c.DrawRectangle(kRed, Rect(-60.5, -40.5, 60.5, 40.5));
-           }},
-          {"miter corner of 3 degrees",
-           [](CrossPlatformDrawingContext &c) {
-               Polygon sharp({Point(-75, 30), Point(10, 27.8), Point(-75, 25.6)});
-               c.Stroke(kInk, 2, "solid", sharp);
-           }}}});
+    all.push_back({"Polygons, lines and rectangles",
+                   {{"filled star, dashed",
+                     [=](CrossPlatformDrawingContext &c) {
+                         c.Fill(kGreen, star);
+                         c.Stroke(kInk, 3, "dash", star);
+                     }},
+                    {"inner square fills solid",
+                     [=](CrossPlatformDrawingContext &c) {
+                         Polygons both;
+                         both.Add(outer);
+                         both.Add(inner);
+                         c.Fill(kRed, both);
+                         c.Stroke(kInk, 1.5, "solid", both);
+                     }},
+                    {"gradient polygon",
+                     [=](CrossPlatformDrawingContext &c) {
+                         c.Fill(makeGradientPattern(kBlue, star.BoundingRect(), Point(1, 1)), star);
+                     }},
+                    {"lines: butt and round caps",
+                     [](CrossPlatformDrawingContext &c) {
+                         c.DrawLine(Point(-60, -25), Point(60, -25), kInk, 14, false);
+                         c.DrawLine(Point(-60, 20), Point(60, 20), kBlue, 14, true);
+                     }},
+                    {"rectangle outline",
+                     [](CrossPlatformDrawingContext &c) { c.DrawRectangle(kRed, Rect(-60.5, -40.5, 60.5, 40.5)); }},
+                    {"miter corner of 3 degrees", [](CrossPlatformDrawingContext &c) {
+                         Polygon sharp({Point(-75, 30), Point(10, 27.8), Point(-75, 25.6)});
+                         c.Stroke(kInk, 2, "solid", sharp);
+                     }}}});
 
     all.push_back(
         {"Pixels: clear, blend and bitmaps",
@@ -146,8 +142,7 @@ std::vector<Section> sections() {
                drawCallout(small, OvalShape(kGreen, "gradient", Point(1, 1), kInk, 1, "solid", Rect(2, 2, 38, 28)));
                c.DrawBitmap(*small.builtInBitmap(), Rect(-60, -45, 60, 45), 1.0);
            }},
-          {"bitmap at alpha 0.4",
-           [](CrossPlatformDrawingContext &c) {
+          {"bitmap at alpha 0.4", [](CrossPlatformDrawingContext &c) {
                CrossPlatformDrawingContextWithBuiltInBitmap small(120, 90);
                small.Clear(kRed);
                c.DrawBitmap(*small.builtInBitmap(), Point(-60, -45), 0.4);

@@ -97,7 +97,7 @@ inline BaseCallout::DrawOptions operator|(BaseCallout::DrawOptions a, BaseCallou
 GradientPattern makeGradientPattern(Color const &color, Rect const &rect, Point const &direction);
 
 // Fills with makeGradientPattern if style is "gradient", else with color.
-void fillPolygonWithStyle(DrawingContext *context, Polygon const &polygon, Color const &color,
-                          std::string const &style, Rect const &rect, Point const &direction);
+void fillPolygonWithStyle(DrawingContext *context, Polygon const &polygon, Color const &color, std::string const &style,
+                          Rect const &rect, Point const &direction);
 
 } // namespace Vantrel

@@ -8,8 +8,8 @@ namespace Vantrel {
 // A filled and stroked shape inside rect.
 class ShapeCallout : public BaseCallout {
 public:
-    ShapeCallout(Color const &fill, std::string const &fillStyle, Point const &gradientDirection,
-                 Color const &stroke, double strokeWidth, std::string const &strokeStyle, Rect const &rect);
+    ShapeCallout(Color const &fill, std::string const &fillStyle, Point const &gradientDirection, Color const &stroke,
+                 double strokeWidth, std::string const &strokeStyle, Rect const &rect);
 
     // rect grown by half the stroke width.
     Rect trackingRect() const override;

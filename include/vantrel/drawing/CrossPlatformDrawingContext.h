@@ -59,8 +59,8 @@ public:
     void FillPath(GradientPattern const &pattern, Path const &path) override;
     void FillPath(Color const &color, Path const &path) override;
     void StrokeEllipse(Color const &color, double lineWidth, std::string const &style, Rect const &rect) override;
-    void StrokePath(Color const &color, double lineWidth, std::string const &style, Path const &path,
-                    LineCapTypes cap, LineJoinTypes join, bool closePath) override;
+    void StrokePath(Color const &color, double lineWidth, std::string const &style, Path const &path, LineCapTypes cap,
+                    LineJoinTypes join, bool closePath) override;
     Polygon FlattenedPath() override;
     void DrawTextW(TextCalloutProperties const &properties, TextAttributeList const &attributes,
                    DrawOutputMetaData *metadata) override;

@@ -75,9 +75,7 @@ struct Rect {
     }
     Rect Expanded(double d) const { return Expanded(Point(d, d)); }
     Rect Expanded(Point const &p) const { return Rect(topLeft - p, bottomRight + p); }
-    Point PointAtFraction(double fx, double fy) const {
-        return topLeft + Point(Width() * fx, Height() * fy);
-    }
+    Point PointAtFraction(double fx, double fy) const { return topLeft + Point(Width() * fx, Height() * fy); }
     Rect Normalized() const;
 
     // Left and top by floor, right and bottom by ceil. Values outside the int
