@@ -13,5 +13,7 @@
 #include <vantrel/drawing/CrossPlatformDrawingContext.h>
 #include <vantrel/drawing/DrawingContext.h>
 
+#include <vantrel/geometry/Path.h>
+
 #include <vantrel/callouts/BaseCallout.h>
 #include <vantrel/callouts/Shapes.h>

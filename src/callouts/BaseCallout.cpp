@@ -1,5 +1,8 @@
 #include <vantrel/callouts/BaseCallout.h>
 
+#include "drawing/BoundsFinder.h"
+#include "drawing/PolygonsDrawingContext.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -9,14 +12,36 @@ Point BaseCallout::boundingSize() const { return boundingRect().Size(); }
 
 Rect BaseCallout::trackingRect() const { return boundingRect(); }
 
-// Measured by the measuring contexts; until they exist a callout has no extent.
-Rect BaseCallout::boundingRect() const { return cachedBoundingRect; }
+// The callout's own drawing, run on a recording surface; measured once.
+Rect BaseCallout::boundingRect() const {
+    if (boundingRectCached)
+        return cachedBoundingRect;
+    BoundsFinder finder;
+    drawIntoContext(&finder, DrawOptionAll, Rect(), -1, nullptr);
+    cachedBoundingRect = finder.InkExtents();
+    boundingRectCached = true;
+    return cachedBoundingRect;
+}
 
-Polygons BaseCallout::pathAsPolygons(Rect) const { return Polygons(); }
+namespace {
+Polygons outline(BaseCallout const &callout, BaseCallout::DrawOptions options, int tailIndex, Rect const &reference) {
+    PolygonsDrawingContext context;
+    callout.drawIntoContext(&context, options, reference, tailIndex, nullptr);
+    return context.Result();
+}
+} // namespace
 
-Polygons BaseCallout::bodyPathAsPolygons(Rect) const { return Polygons(); }
+Polygons BaseCallout::pathAsPolygons(Rect referenceRect) const {
+    return outline(*this, DrawOptionAll, -1, referenceRect);
+}
 
-Polygons BaseCallout::tailPathAsPolygons(int, Rect) const { return Polygons(); }
+Polygons BaseCallout::bodyPathAsPolygons(Rect referenceRect) const {
+    return outline(*this, DrawOptionBody, -1, referenceRect);
+}
+
+Polygons BaseCallout::tailPathAsPolygons(int tailIndex, Rect referenceRect) const {
+    return outline(*this, DrawOptionTail, tailIndex, referenceRect);
+}
 
 Rect BaseCallout::trackingRectAround(Point const &c) const {
     Rect b = boundingRect();

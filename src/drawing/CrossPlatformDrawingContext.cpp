@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace Vantrel {
 
@@ -119,19 +120,129 @@ Polygons single(Polygon const &polygon) {
     return list;
 }
 
-// The unit circle under the ellipse's scale. A rect without area, or one so
-// large that the scale overflows, would need a transform cairo refuses, so
-// such an ellipse adds nothing.
+// cairo keeps path coordinates in 24.8 fixed point. Beyond about 8.4 million
+// device units they wrap around, and a curve through such points flattens
+// into millions of segments. Arcs and curves reaching past this extent are
+// traced as lines instead, with a bounded number of segments.
+double const kSafeDeviceExtent = 4e6;
+int const kSegmentsPerTurn = Polygon::kMaxSegmentsPerTurn;
+
+bool withinSafeExtent(cairo_t *cr, Point p) {
+    cairo_user_to_device(cr, &p.x, &p.y);
+    return std::fabs(p.x) <= kSafeDeviceExtent && std::fabs(p.y) <= kSafeDeviceExtent;
+}
+
+double deviceLength(cairo_t *cr, Point v) {
+    cairo_user_to_device_distance(cr, &v.x, &v.y);
+    return v.Length();
+}
+
+// More dashes than this along one stroke is far beyond any visible length,
+// and cairo's time grows with the count.
+double const kMaxDashesPerStroke = 1e6;
+
+double flattenedLength(cairo_t *cr) {
+    cairo_path_t *path = cairo_copy_path_flat(cr);
+    double length = 0.0;
+    Point last, first;
+    for (int i = 0; i < path->num_data; i += path->data[i].header.length) {
+        cairo_path_data_t const &d = path->data[i];
+        if (d.header.type == CAIRO_PATH_CLOSE_PATH) {
+            length += (first - last).Length();
+            last = first;
+            continue;
+        }
+        Point p(path->data[i + 1].point.x, path->data[i + 1].point.y);
+        if (d.header.type == CAIRO_PATH_MOVE_TO)
+            first = p;
+        else
+            length += (p - last).Length();
+        last = p;
+    }
+    cairo_path_destroy(path);
+    return length;
+}
+
+// cairo_stroke, except that a dash which would need more than
+// kMaxDashesPerStroke dashes along the path is drawn continuous for this one
+// stroke, and stays in force afterwards.
+void strokeBounded(cairo_t *cr) {
+    int count = cairo_get_dash_count(cr);
+    if (count > 0) {
+        std::vector<double> dashes(count);
+        double offset = 0.0;
+        cairo_get_dash(cr, dashes.data(), &offset);
+        double period = 0.0;
+        for (double d : dashes)
+            period += d;
+        if (count % 2)
+            period *= 2; // an odd count alternates on and off over two rounds
+        if (!(flattenedLength(cr) / period <= kMaxDashesPerStroke)) {
+            cairo_set_dash(cr, nullptr, 0, 0.0);
+            cairo_stroke(cr);
+            cairo_set_dash(cr, dashes.data(), count, offset);
+            return;
+        }
+    }
+    cairo_stroke(cr);
+}
+
+void lineOrMove(cairo_t *cr, Point const &p, bool first) {
+    if (first && !cairo_has_current_point(cr))
+        cairo_move_to(cr, p.x, p.y);
+    else
+        cairo_line_to(cr, p.x, p.y);
+}
+
+// The arc of the unit circle from start over sweep (>= 0), mapped by the
+// frame, as segments lines.
+void traceArc(cairo_t *cr, Point const &center, Point const &xAxis, Point const &yAxis, double start, double sweep,
+              int segments) {
+    for (int i = 0; i <= segments; ++i) {
+        Point u = Point::FromAngle(start + sweep * i / segments);
+        lineOrMove(cr, center + xAxis * u.x + yAxis * u.y, i == 0);
+    }
+}
+
+// An arc of any ellipse: the unit circle under the frame (xAxis, yAxis) at
+// center, joined to the current point by a line as cairo_arc does.
+void addArc(cairo_t *cr, Point const &center, Point const &xAxis, Point const &yAxis, double startAngle,
+            double endAngle) {
+    if (!finite(center) || !finite(xAxis) || !finite(yAxis) || !std::isfinite(startAngle) || !std::isfinite(endAngle))
+        return; // a non-finite arc adds nothing
+    // cairo turns an end below the start into the next turn; past two turns
+    // an arc looks the same but costs a segment run per turn, so the sweep is
+    // cut to under two turns with the same end point.
+    if (endAngle - startAngle > 2 * kTwoPi)
+        endAngle = startAngle + kTwoPi + std::fmod(endAngle - startAngle, kTwoPi);
+    bool singular = !keepsInvertible(cr, xAxis ^ yAxis);
+    double reach = deviceLength(cr, xAxis) + deviceLength(cr, yAxis);
+    bool huge = !(reach <= kSafeDeviceExtent) || !withinSafeExtent(cr, center);
+    if (singular || huge) {
+        // cairo would refuse a collapsed frame (and stop drawing altogether) or
+        // drown in segments on a huge one: trace the arc's mapped points.
+        double sweep = endAngle - startAngle;
+        if (sweep < 0)
+            sweep = std::fmod(sweep, kTwoPi) + kTwoPi;
+        int segments = std::max(1, int(std::ceil(sweep / kTwoPi * (singular ? 32 : kSegmentsPerTurn))));
+        traceArc(cr, center, xAxis, yAxis, startAngle, sweep, segments);
+        return;
+    }
+    cairo_save(cr);
+    cairo_matrix_t frame;
+    cairo_matrix_init(&frame, xAxis.x, xAxis.y, yAxis.x, yAxis.y, center.x, center.y);
+    cairo_transform(cr, &frame);
+    cairo_arc(cr, 0.0, 0.0, 1.0, startAngle, endAngle);
+    cairo_restore(cr);
+}
+
+// The ellipse inscribed in rect: the unit circle under its half sizes. One
+// without area has no outline and adds nothing.
 void addEllipse(cairo_t *cr, Rect const &rect) {
     double w = rect.Width(), h = rect.Height();
-    if (!std::isfinite(rect.Left() + w * 0.5) || !std::isfinite(rect.Top() + h * 0.5) ||
-        !keepsInvertible(cr, w * 0.5 * h * 0.5))
+    if (w == 0.0 || h == 0.0)
         return;
-    cairo_save(cr);
-    cairo_translate(cr, rect.Left() + w * 0.5, rect.Top() + h * 0.5);
-    cairo_scale(cr, w * 0.5, h * 0.5);
-    cairo_arc(cr, 0.0, 0.0, 1.0, 0.0, kTwoPi);
-    cairo_restore(cr);
+    addArc(cr, Point(rect.Left() + w * 0.5, rect.Top() + h * 0.5), Point(w * 0.5, 0), Point(0, h * 0.5), 0.0, kTwoPi);
 }
 
 } // namespace
@@ -177,7 +288,7 @@ void CrossPlatformDrawingContext::StrokeCurrentPath(Color const &color, double l
     cairo_set_line_width(cr, safeWidth(lineWidth));
     cairo_set_line_cap(cr, cairo_line_cap_t(cap));
     cairo_set_line_join(cr, cairo_line_join_t(join));
-    cairo_stroke(cr);
+    strokeBounded(cr);
 }
 
 void CrossPlatformDrawingContext::AddArcToCurrentPath(Point const &center, double radiusX, double radiusY,
@@ -187,38 +298,7 @@ void CrossPlatformDrawingContext::AddArcToCurrentPath(Point const &center, doubl
 
 void CrossPlatformDrawingContext::AddArcToCurrentPath(Point const &center, Point const &xAxis, Point const &yAxis,
                                                       double startAngle, double endAngle) {
-    cairo_t *cr = impl->cr;
-    if (!finite(center) || !finite(xAxis) || !finite(yAxis) || !std::isfinite(startAngle) || !std::isfinite(endAngle))
-        return; // a non-finite arc adds nothing
-    // cairo turns an end below the start into the next turn; beyond two turns
-    // the arc looks the same but costs a segment run per turn, so the sweep is
-    // cut to under two turns with the same end point.
-    if (endAngle - startAngle > 2 * kTwoPi)
-        endAngle = startAngle + kTwoPi + std::fmod(endAngle - startAngle, kTwoPi);
-    if (!keepsInvertible(cr, xAxis ^ yAxis)) {
-        // The ellipse has collapsed to a segment or a point. cairo would refuse
-        // the singular transform (and stop drawing altogether), so the arc is
-        // traced by its mapped points instead.
-        double sweep = endAngle - startAngle;
-        if (sweep < 0)
-            sweep = std::fmod(sweep, kTwoPi) + kTwoPi;
-        int n = std::max(1, int(std::ceil(sweep / (M_PI / 16))));
-        for (int i = 0; i <= n; ++i) {
-            Point u = Point::FromAngle(startAngle + sweep * i / n);
-            Point q = center + xAxis * u.x + yAxis * u.y;
-            if (i == 0 && !cairo_has_current_point(cr))
-                cairo_move_to(cr, q.x, q.y);
-            else
-                cairo_line_to(cr, q.x, q.y);
-        }
-        return;
-    }
-    cairo_save(cr);
-    cairo_matrix_t frame;
-    cairo_matrix_init(&frame, xAxis.x, xAxis.y, yAxis.x, yAxis.y, center.x, center.y);
-    cairo_transform(cr, &frame);
-    cairo_arc(cr, 0.0, 0.0, 1.0, startAngle, endAngle);
-    cairo_restore(cr);
+    addArc(impl->cr, center, xAxis, yAxis, startAngle, endAngle);
 }
 
 void CrossPlatformDrawingContext::AddLineToCurrentPath(Point const &p) { cairo_line_to(impl->cr, p.x, p.y); }
@@ -226,7 +306,22 @@ void CrossPlatformDrawingContext::AddLineToCurrentPath(Point const &p) { cairo_l
 void CrossPlatformDrawingContext::MoveToPointInCurrentPath(Point const &p) { cairo_move_to(impl->cr, p.x, p.y); }
 
 void CrossPlatformDrawingContext::AddCurveToCurrentPath(Point const &c1, Point const &c2, Point const &end) {
-    cairo_curve_to(impl->cr, c1.x, c1.y, c2.x, c2.y, end.x, end.y);
+    cairo_t *cr = impl->cr;
+    Point start = c1; // without a current point the curve starts at its first control point
+    if (cairo_has_current_point(cr))
+        cairo_get_current_point(cr, &start.x, &start.y);
+    if (withinSafeExtent(cr, start) && withinSafeExtent(cr, c1) && withinSafeExtent(cr, c2) &&
+        withinSafeExtent(cr, end)) {
+        cairo_curve_to(cr, c1.x, c1.y, c2.x, c2.y, end.x, end.y);
+        return;
+    }
+    // Beyond cairo's coordinate range: the curve's own points, as lines.
+    int const segments = 64;
+    for (int i = 0; i <= segments; ++i) {
+        double t = double(i) / segments, s = 1.0 - t;
+        Point p = start * (s * s * s) + c1 * (3 * s * s * t) + c2 * (3 * s * t * t) + end * (t * t * t);
+        lineOrMove(cr, p, i == 0);
+    }
 }
 
 Point CrossPlatformDrawingContext::CurrentPointInPath() {
@@ -290,7 +385,7 @@ void CrossPlatformDrawingContext::Stroke(Color const &color, double lineWidth, s
     cairo_set_line_width(cr, safeWidth(lineWidth));
     // Every contour is closed, so the cap shows only at the ends of dashes.
     cairo_set_line_cap(cr, CAIRO_LINE_CAP_SQUARE);
-    cairo_stroke(cr);
+    strokeBounded(cr);
 }
 
 void CrossPlatformDrawingContext::Stroke(Color const &color, double lineWidth, std::string const &style,
@@ -304,7 +399,7 @@ void CrossPlatformDrawingContext::DrawRectangle(Color const &color, Rect const &
     cairo_new_path(cr);
     setSourceColor(cr, color);
     cairo_rectangle(cr, rect.Left(), rect.Top(), rect.Width(), rect.Height());
-    cairo_stroke(cr);
+    strokeBounded(cr);
 }
 
 void CrossPlatformDrawingContext::FillEllipse(GradientPattern const &pattern, Rect const &rect) {
@@ -334,7 +429,7 @@ void CrossPlatformDrawingContext::StrokeEllipse(Color const &color, double lineW
     addEllipse(cr, rect);
     cairo_set_line_width(cr, safeWidth(lineWidth));
     applyStrokeStyle(cr, style, lineWidth);
-    cairo_stroke(cr);
+    strokeBounded(cr);
 }
 
 Polygon CrossPlatformDrawingContext::FlattenedPath() {
@@ -358,7 +453,7 @@ void CrossPlatformDrawingContext::DrawLine(Point const &from, Point const &to, C
     cairo_new_path(cr);
     cairo_move_to(cr, from.x, from.y);
     cairo_line_to(cr, to.x, to.y);
-    cairo_stroke(cr);
+    strokeBounded(cr);
 }
 
 void CrossPlatformDrawingContext::SetLineSettings(Color const &color, double lineWidth, LineJoinTypes join,

@@ -337,7 +337,10 @@ TEST(CairoContext, HostileInputKeepsTheContextDrawing) {
     c.AddArcToCurrentPath(Point(nan, 20), 5, 5, 0, 1);
     c.AddArcToCurrentPath(Point(20, 20), 5, 5, 1e300, -1e300);
     c.StrokeCurrentPath(kRed, 1, "solid", LineCapRound, LineJoinRound, true);
+    // Far too many dots for one stroke: drawn continuous, and the dash stays in force.
     c.Stroke(kRed, 1, "dot", Polygon({Point(-1e12, 5), Point(1e12, 5), Point(0, 1e12)}));
+    c.Stroke(kRed, 1, "dot", Polygon::Circle(Point(0, 0), 3e6));
+    EXPECT_EQ(dashOf(c), (std::vector<double>{1, 2}));
     EXPECT_EQ(cairo_status(c.Get()), CAIRO_STATUS_SUCCESS);
     c.Clear(Color());
     c.Fill(kRed, Polygon(Rect(0, 0, 40, 40)));

@@ -22,7 +22,12 @@ namespace Vantrel {
 //   every drawing operation does nothing;
 // - a Bitmap whose bytesPerRow cairo cannot use (not a multiple of 4, or
 //   shorter than a row) gives a surface in cairo's error state, which ignores
-//   every call.
+//   every call;
+// - coordinates beyond cairo's fixed-point range (about 8 million device
+//   units) cannot be drawn faithfully: arcs and curves reaching there are
+//   traced as lines, and a dash that would need more than a million dashes
+//   along one stroke is drawn continuous, so that drawing stays bounded in
+//   time rather than exact.
 class CrossPlatformDrawingContext : public DrawingContext {
 public:
     explicit CrossPlatformDrawingContext(Bitmap *bitmap);
