@@ -12,8 +12,7 @@ void CrossPlatformDrawingContext::FillPath(GradientPattern const &pattern, Path 
 void CrossPlatformDrawingContext::FillPath(Color const &color, Path const &path) { path.Fill(color, this); }
 
 void CrossPlatformDrawingContext::StrokePath(Color const &color, double lineWidth, std::string const &style,
-                                             Path const &path, LineCapTypes cap, LineJoinTypes join,
-                                             bool closePath) {
+                                             Path const &path, LineCapTypes cap, LineJoinTypes join, bool closePath) {
     path.Stroke(color, lineWidth, style, this, cap, join, closePath);
 }
 

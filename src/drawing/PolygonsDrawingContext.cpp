@@ -11,8 +11,8 @@ PolygonsDrawingContext::~PolygonsDrawingContext() { delete pathContext; }
 
 void PolygonsDrawingContext::StartPath() { pathContext->StartPath(); }
 
-void PolygonsDrawingContext::AddArcToCurrentPath(Point const &center, double radiusX, double radiusY,
-                                                 double startAngle, double endAngle) {
+void PolygonsDrawingContext::AddArcToCurrentPath(Point const &center, double radiusX, double radiusY, double startAngle,
+                                                 double endAngle) {
     AddArcToCurrentPath(center, Point(radiusX, 0), Point(0, radiusY), startAngle, endAngle);
 }
 
@@ -71,9 +71,7 @@ void PolygonsDrawingContext::Fill(Color const &, Polygons const &list) { collect
 
 void PolygonsDrawingContext::Fill(Color const &color, Polygon const &polygon) { Fill(color, single(polygon)); }
 
-void PolygonsDrawingContext::Stroke(Color const &, double, std::string const &, Polygons const &list) {
-    collect(list);
-}
+void PolygonsDrawingContext::Stroke(Color const &, double, std::string const &, Polygons const &list) { collect(list); }
 
 void PolygonsDrawingContext::Stroke(Color const &color, double lineWidth, std::string const &style,
                                     Polygon const &polygon) {

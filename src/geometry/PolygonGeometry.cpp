@@ -127,8 +127,8 @@ Polygon Polygon::RoundedCorners(std::vector<double> const &radii) const {
     for (int i = 0; i < n; ++i) {
         double s1 = std::max((cut[wrap(i - 1, n)] + cut[i]) / distinct.EdgeLength(i - 1), 1.0);
         double s2 = std::max((cut[i] + cut[wrap(i + 1, n)]) / distinct.EdgeLength(i), 1.0);
-        result.Append(RoundedCorner(distinct.Vertex(i - 1), distinct.Vertex(i), distinct.Vertex(i + 1),
-                                    r[i] / std::max(s1, s2)));
+        result.Append(
+            RoundedCorner(distinct.Vertex(i - 1), distinct.Vertex(i), distinct.Vertex(i + 1), r[i] / std::max(s1, s2)));
     }
     return result;
 }

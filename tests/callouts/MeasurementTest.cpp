@@ -59,9 +59,9 @@ TEST(Measurement, BoundingRectMatchesRenderedInk) {
         for (char const *style : {"solid", "dash", "dot", "dashdotdot"}) {
             std::string what = std::to_string(width) + " " + style;
             expectBoundsMatchInk(TwoTailCallout(width, style), "triangle " + what);
-            expectBoundsMatchInk(
-                OvalShape(Color(0, 1, 0), "gradient", Point(1, 1), Color(0, 0, 0), width, style, Rect(-60, -30, 50, 45)),
-                "oval " + what);
+            expectBoundsMatchInk(OvalShape(Color(0, 1, 0), "gradient", Point(1, 1), Color(0, 0, 0), width, style,
+                                           Rect(-60, -30, 50, 45)),
+                                 "oval " + what);
         }
 }
 
@@ -125,8 +125,8 @@ TEST(Measurement, TrackingRectAroundACentre) {
 }
 
 TEST(Measurement, HostileGeometryMeasuresWithoutHanging) {
-    for (Rect r : {Rect(0, 0, 0, 0), Rect(-1e15, -1e15, 1e15, 1e15), Rect(0, 0, std::nan(""), 4),
-                   Rect(5, 5, -5, -5), Rect(0, 0, 1e-300, 1e-300)}) {
+    for (Rect r : {Rect(0, 0, 0, 0), Rect(-1e15, -1e15, 1e15, 1e15), Rect(0, 0, std::nan(""), 4), Rect(5, 5, -5, -5),
+                   Rect(0, 0, 1e-300, 1e-300)}) {
         OvalShape oval(Color(1, 0, 0), "gradient", Point(0, 0), Color(0, 0, 0), 3, "dot", r);
         oval.boundingRect();
         Canvas canvas(64, 64);

@@ -61,6 +61,70 @@ Polygon starPolygon(double outer, double inner, int points) {
     return star;
 }
 
+// The bounds of a callout as a thin outline and its outline polygons over it, in a second colour.
+void drawMeasurements(CrossPlatformDrawingContext &c, BaseCallout const &callout) {
+    drawCallout(c, callout);
+    c.Stroke(Color(0.9f, 0.1f, 0.5f), 1, "solid", Polygon(callout.boundingRect()));
+    Polygons outline = callout.pathAsPolygons(Rect());
+    c.Stroke(Color(0.1f, 0.75f, 0.2f), 1, "solid", outline);
+}
+
+// A keyhole: an arc, two lines and a curve, as one contour.
+Path keyhole() {
+    Path p;
+    p.AddArc(Point(0, -15), 22, M_PI * 0.65, M_PI * 2.35);
+    p.AddPoint(Point(18, 35));
+    p.AddCurve(Point(6, 45), Point(-6, 45), Point(-18, 35));
+    return p;
+}
+
+void addPathSections(std::vector<Section> &all) {
+    auto pathTile = [](std::string label, Matrix3x3 m, std::string style) {
+        return Tile{label, [=](CrossPlatformDrawingContext &c) {
+                        Path p = keyhole();
+                        p.Transform(m);
+                        c.FillPath(makeGradientPattern(kBlue, Rect(-40, -40, 40, 45), Point(1, 1)), p);
+                        c.StrokePath(kInk, 3, style, p, LineCapRound, LineJoinRound, true);
+                    }};
+    };
+    double const a = M_PI / 6;
+    Matrix3x3 rotation(std::cos(a), -std::sin(a), 0, std::sin(a), std::cos(a), 0, 0, 0, 1);
+    Matrix3x3 shear(1, 0.6, 0, 0, 1, 0, 0, 0, 1);
+    all.push_back(
+        {"Paths: arcs, lines and curves, transformed",
+         {pathTile("path", Matrix3x3(), "solid"), pathTile("rotated 30 degrees", rotation, "dash"),
+          pathTile("sheared", shear, "dot"), pathTile("scaled (1.6, 0.8)", Matrix3x3::Scale(1.6, 0.8), "dashdot"),
+          pathTile("mirrored", Matrix3x3::Scale(-1, 1) * rotation, "solid")}});
+
+    Polygon star = starPolygon(55, 24, 5);
+    Polygon triangle{Point(0, -50), Point(60, 45), Point(-60, 45)};
+    auto rounded = [](std::string label, Polygon p, Color fill) {
+        return Tile{label, [=](CrossPlatformDrawingContext &c) {
+                        c.Fill(fill, p);
+                        c.Stroke(kInk, 2, "solid", p);
+                    }};
+    };
+    all.push_back({"Rounded polygons",
+                   {rounded("star, radius 3", star.RoundedCorners(3), kOrange),
+                    rounded("star, radius 40 (shrunk)", star.RoundedCorners(40), kOrange),
+                    rounded("triangle, radius 12", triangle.RoundedCorners(12), kGreen),
+                    rounded("radii 0, 10, 40", triangle.RoundedCorners(std::vector<double>{0, 10, 40}), kGreen),
+                    rounded("square, radius 1000", Polygon(Rect(-45, -45, 45, 45)).RoundedCorners(1000), kBlue),
+                    rounded("circle of radius 50", Polygon::Circle(Point(0, 0), 50), kRed)}});
+
+    auto measured = [](std::string label, double width, std::string style, Rect r) {
+        return Tile{label, [=](CrossPlatformDrawingContext &c) {
+                        drawMeasurements(c, OvalShape(kOrange, "gradient", Point(0, 1), kInk, width, style, r));
+                    }};
+    };
+    all.push_back({"Measured: boundingRect (pink) and pathAsPolygons (green)",
+                   {measured("no stroke", 0, "solid", Rect(-60, -40, 60, 40)),
+                    measured("stroke 4", 4, "solid", Rect(-60, -40, 60, 40)),
+                    measured("stroke 12, dash", 12, "dash", Rect(-55, -35, 55, 35)),
+                    measured("stroke 8, dot", 8, "dot", Rect(-30, -45, 30, 45)),
+                    measured("off centre", 3, "dashdot", Rect(-70, -20, 20, 45))}});
+}
+
 std::vector<Section> sections() {
     std::vector<Section> all;
     all.push_back({"Ovals: solid and gradient fills",
@@ -147,6 +211,7 @@ std::vector<Section> sections() {
                small.Clear(kRed);
                c.DrawBitmap(*small.builtInBitmap(), Point(-60, -45), 0.4);
            }}}});
+    addPathSections(all);
     return all;
 }
 
