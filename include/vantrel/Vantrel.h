@@ -16,4 +16,6 @@
 #include <vantrel/geometry/Path.h>
 
 #include <vantrel/callouts/BaseCallout.h>
+#include <vantrel/callouts/CustomPath.h>
+#include <vantrel/callouts/Presets.h>
 #include <vantrel/callouts/Shapes.h>
