@@ -1,5 +1,5 @@
 // Bounds and outlines come from the callout's one drawing routine.
-#include "support/PixelProbe.h"
+#include "support/CalloutChecks.h"
 
 #include <gtest/gtest.h>
 
@@ -8,6 +8,7 @@
 
 using namespace Vantrel;
 using VantrelTest::Canvas;
+using VantrelTest::expectBoundsMatchInk;
 
 namespace {
 
@@ -39,18 +40,6 @@ public:
     Polygon tails[2] = {Polygon{Point(40, -5), Point(60, 30), Point(45, 0)},
                         Polygon{Point(-10, 5), Point(-20, 35), Point(0, 6)}};
 };
-
-void expectBoundsMatchInk(BaseCallout const &callout, std::string const &what) {
-    Rect bounds = callout.boundingRect();
-    Canvas canvas(300, 200);
-    canvas.context.Translate(Point(150, 100));
-    callout.drawIntoContext(&canvas.context, BaseCallout::DrawOptionAll, Rect(), -1, nullptr);
-    Rect ink = VantrelTest::inkBounds(canvas.bitmap).OffsettedRect(Point(-150, -100));
-    EXPECT_NEAR(bounds.Left(), ink.Left(), 1.0) << what;
-    EXPECT_NEAR(bounds.Top(), ink.Top(), 1.0) << what;
-    EXPECT_NEAR(bounds.Right(), ink.Right(), 1.0) << what;
-    EXPECT_NEAR(bounds.Bottom(), ink.Bottom(), 1.0) << what;
-}
 
 } // namespace
 
