@@ -43,8 +43,7 @@ BaseCallout *Presets::createShapeRectangle(Theme theme, Color const &fill, std::
     ThemeValue radius = byTheme(theme, 8, 0, 0, 0);
     if (!radius.exists)
         return nullptr;
-    return new RectangleShape(fill, fillStyle, gradientDirection, stroke, strokeWidth, strokeStyle, radius.value,
-                              rect);
+    return new RectangleShape(fill, fillStyle, gradientDirection, stroke, strokeWidth, strokeStyle, radius.value, rect);
 }
 
 BaseCallout *Presets::createShapeOctagon(Theme theme, Color const &fill, std::string const &fillStyle,

@@ -96,8 +96,7 @@ Polygon RegularPolygonShape::regularPolygon() const {
     return polygon;
 }
 
-void RegularPolygonShape::drawIntoContext(DrawingContext *context, DrawOptions, Rect, int,
-                                          DrawOutputMetaData *) const {
+void RegularPolygonShape::drawIntoContext(DrawingContext *context, DrawOptions, Rect, int, DrawOutputMetaData *) const {
     fillAndStroke(context, regularPolygon(), cornerRadius);
 }
 

@@ -30,8 +30,7 @@ using Factory = BaseCallout *(*)(Presets::Theme, Color const &, std::string cons
 Factory const kFactories[] = {Presets::createShapeOval, Presets::createShapeRectangle, Presets::createShapeOctagon,
                               Presets::createShapeTriangle, Presets::createShapeStar};
 char const *const kFactoryNames[] = {"oval", "rectangle", "octagon", "triangle", "star"};
-Presets::Theme const kThemes[] = {Presets::ThemeBasic, Presets::ThemeUrban, Presets::ThemeBold,
-                                  Presets::ThemeAbstract};
+Presets::Theme const kThemes[] = {Presets::ThemeBasic, Presets::ThemeUrban, Presets::ThemeBold, Presets::ThemeAbstract};
 
 } // namespace
 
@@ -40,8 +39,8 @@ TEST(Shapes, BoundsMatchTheInkOfEveryShape) {
         for (Presets::Theme theme : kThemes)
             for (double width : {0.0, 3.0, 10.0})
                 for (char const *style : {"solid", "dash", "dotted-unknown"}) {
-                    std::unique_ptr<BaseCallout> shape(
-                        kFactories[f](theme, kFill, "gradient", Point(1, 2), kInk, width, style, Rect(-90, -60, 80, 70)));
+                    std::unique_ptr<BaseCallout> shape(kFactories[f](theme, kFill, "gradient", Point(1, 2), kInk, width,
+                                                                     style, Rect(-90, -60, 80, 70)));
                     ASSERT_NE(shape, nullptr);
                     expectBoundsMatchInk(*shape, std::string(kFactoryNames[f]) + " theme " + std::to_string(theme) +
                                                      " width " + std::to_string(width) + " " + style);
@@ -82,10 +81,10 @@ TEST(Shapes, OctagonIsCentredOnTheOriginWithVerticalSides) {
         expectPoint(p.points[1], 50, -20.710678118654755); // counter-clockwise on screen
     }
     // Presets: Basic rounds the octagon, Urban does not.
-    std::unique_ptr<BaseCallout> basic(Presets::createShapeOctagon(Presets::ThemeBasic, kFill, kInk, 0, "solid",
-                                                                   Rect(-50, -50, 50, 50)));
-    std::unique_ptr<BaseCallout> urban(Presets::createShapeOctagon(Presets::ThemeUrban, kFill, kInk, 0, "solid",
-                                                                   Rect(-50, -50, 50, 50)));
+    std::unique_ptr<BaseCallout> basic(
+        Presets::createShapeOctagon(Presets::ThemeBasic, kFill, kInk, 0, "solid", Rect(-50, -50, 50, 50)));
+    std::unique_ptr<BaseCallout> urban(
+        Presets::createShapeOctagon(Presets::ThemeUrban, kFill, kInk, 0, "solid", Rect(-50, -50, 50, 50)));
     EXPECT_GT(firstOutline(*basic).points.size(), 8u);
     EXPECT_EQ(firstOutline(*urban).points.size(), 8u);
 }
@@ -178,12 +177,12 @@ TEST(Presets, ThemeTable) {
     std::unique_ptr<BaseCallout> bold(Presets::createShapeRectangle(Presets::ThemeBold, kFill, kInk, 2, "dash", r));
     EXPECT_EQ(firstOutline(*bold).points.size(), 4u);
     // Bold stars are fatter: inner ratio 0.7.
-    std::unique_ptr<BaseCallout> star(Presets::createShapeStar(Presets::ThemeBold, kFill, kInk, 0, "solid",
-                                                               Rect(-50, -50, 50, 50)));
+    std::unique_ptr<BaseCallout> star(
+        Presets::createShapeStar(Presets::ThemeBold, kFill, kInk, 0, "solid", Rect(-50, -50, 50, 50)));
     EXPECT_NEAR(firstOutline(*star).points[1].Length(), 35, 1e-9);
     // The short form fills solid with direction (0, 0): a gradient never appears.
-    std::unique_ptr<BaseCallout> tri(Presets::createShapeTriangle(Presets::ThemeUrban, kFill, kInk, 0, "solid",
-                                                                  Rect(-50, -50, 50, 50)));
+    std::unique_ptr<BaseCallout> tri(
+        Presets::createShapeTriangle(Presets::ThemeUrban, kFill, kInk, 0, "solid", Rect(-50, -50, 50, 50)));
     VantrelTest::Canvas canvas(100, 100);
     canvas.context.Translate(Point(50, 50));
     tri->drawIntoContext(&canvas.context, BaseCallout::DrawOptionAll, Rect(), -1, nullptr);

@@ -6,6 +6,7 @@
 #include <cmath>
 #include <functional>
 #include <memory>
+#include <string>
 #include <vector>
 
 using namespace Vantrel;
@@ -32,6 +33,8 @@ struct Tile {
 struct Section {
     std::string title;
     std::vector<Tile> tiles;
+    int columns = kColumns;
+    int rows() const { return int((tiles.size() + columns - 1) / columns); }
 };
 
 Color const kInk(0.15f, 0.2f, 0.35f);
@@ -125,6 +128,71 @@ void addPathSections(std::vector<Section> &all) {
                     measured("off centre", 3, "dashdot", Rect(-70, -20, 20, 45))}});
 }
 
+// Bounds (pink) and tracking rect (blue) of a callout, drawn over it.
+void drawWithRects(CrossPlatformDrawingContext &c, BaseCallout const &callout) {
+    drawCallout(c, callout);
+    c.Stroke(Color(0.9f, 0.1f, 0.5f), 1, "solid", Polygon(callout.boundingRect()));
+    c.Stroke(Color(0.1f, 0.5f, 0.95f), 1, "solid", Polygon(callout.trackingRect()));
+}
+
+struct ThemeName {
+    Presets::Theme theme;
+    char const *name;
+};
+ThemeName const kThemes[] = {{Presets::ThemeBasic, "basic"},
+                             {Presets::ThemeModern, "modern"},
+                             {Presets::ThemeUrban, "urban"},
+                             {Presets::ThemeBold, "bold"},
+                             {Presets::ThemeAbstract, "abstract"}};
+
+void addShapeSections(std::vector<Section> &all) {
+    using Factory = BaseCallout *(*)(Presets::Theme, Color const &, std::string const &, Point const &, Color const &,
+                                     double, std::string const &, Rect const &);
+    struct Kind {
+        char const *name;
+        Factory make;
+        Color fill;
+    } const kinds[] = {{"Oval", Presets::createShapeOval, kBlue},
+                       {"Rectangle", Presets::createShapeRectangle, kOrange},
+                       {"Octagon", Presets::createShapeOctagon, kRed},
+                       {"Triangle", Presets::createShapeTriangle, kGreen},
+                       {"Star", Presets::createShapeStar, Color(1.0f, 0.8f, 0.0f)}};
+    struct Look {
+        char const *fillStyle;
+        double width;
+        char const *strokeStyle;
+    } const looks[] = {{"solid", 3, "solid"}, {"gradient", 6, "dash"}};
+    for (Kind const &kind : kinds) {
+        Section section{
+            std::string(kind.name) + " from the presets, every theme: bounds pink, tracking rect blue", {}, 5};
+        for (Look const &look : looks)
+            for (ThemeName const &t : kThemes) {
+                std::shared_ptr<BaseCallout> callout(kind.make(t.theme, kind.fill, look.fillStyle, Point(0.3, 1), kInk,
+                                                               look.width, look.strokeStyle, Rect(-65, -42, 65, 42)));
+                std::string label = std::string(t.name) + ", " + look.fillStyle + ", " + look.strokeStyle + " " +
+                                    std::to_string(int(look.width));
+                if (!callout)
+                    label = std::string(t.name) + ": none";
+                section.tiles.push_back({label, [callout](CrossPlatformDrawingContext &c) {
+                                             if (callout)
+                                                 drawWithRects(c, *callout);
+                                         }});
+            }
+        all.push_back(section);
+    }
+    auto path = [](std::string label, std::string points, double width, std::string style) {
+        return Tile{label, [=](CrossPlatformDrawingContext &c) {
+                        drawWithRects(c, CustomPath(points, Point(140, 90), kBlue, width, style));
+                    }};
+    };
+    all.push_back({"CustomPath: a host's polyline, stretched to its size",
+                   {path("zigzag, width 4", "-0.5,0.5 -0.25,-0.5 0,0.3 0.25,-0.5 0.5,0.5", 4, "solid"),
+                    path("spiral, width 3, dash", "0,0 0.1,0 0.1,0.15 -0.2,0.15 -0.2,-0.3 0.3,-0.3 0.3,0.45 -0.45,0.45",
+                         3, "dash"),
+                    path("wave, width 6, dot", "-0.5,0 -0.3,-0.4 -0.1,0.4 0.1,-0.4 0.3,0.4 0.5,0", 6, "dot"),
+                    path("beyond the unit box", "-0.8,-0.6 0.8,0.6", 8, "solid")}});
+}
+
 std::vector<Section> sections() {
     std::vector<Section> all;
     all.push_back({"Ovals: solid and gradient fills",
@@ -212,6 +280,7 @@ std::vector<Section> sections() {
                c.DrawBitmap(*small.builtInBitmap(), Point(-60, -45), 0.4);
            }}}});
     addPathSections(all);
+    addShapeSections(all);
     return all;
 }
 
@@ -244,7 +313,7 @@ bool writeGallery(std::string const &path) {
     std::vector<Section> all = sections();
     int height = kMargin;
     for (Section const &s : all)
-        height += kTitleHeight + int((s.tiles.size() + kColumns - 1) / kColumns) * kCellHeight;
+        height += kTitleHeight + s.rows() * kCellHeight;
     int width = 2 * kMargin + kColumns * kCellWidth;
     height += kMargin;
 
@@ -257,8 +326,8 @@ bool writeGallery(std::string const &path) {
         drawLabel(cr, s.title, kMargin, y + 22, 16, true);
         y += kTitleHeight;
         for (size_t i = 0; i < s.tiles.size(); ++i) {
-            int x = kMargin + int(i % kColumns) * kCellWidth;
-            int top = y + int(i / kColumns) * kCellHeight;
+            int x = kMargin + int(i % s.columns) * kCellWidth;
+            int top = y + int(i / s.columns) * kCellHeight;
             // Each tile draws on a transparent bitmap of its own, so that what it
             // clears or leaves transparent shows the checkerboard beneath.
             CrossPlatformDrawingContextWithBuiltInBitmap tile(kCellWidth, kCellHeight - kLabelHeight);
@@ -268,7 +337,7 @@ bool writeGallery(std::string const &path) {
             page.DrawBitmap(*tile.builtInBitmap(), Point(x, top), 1.0);
             drawLabel(cr, s.tiles[i].label, x + 8, top + kCellHeight - kLabelHeight + 12, 11, false);
         }
-        y += int((s.tiles.size() + kColumns - 1) / kColumns) * kCellHeight;
+        y += s.rows() * kCellHeight;
     }
 
     cairo_surface_t *surface = cairo_get_target(cr);

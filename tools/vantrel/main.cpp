@@ -1,4 +1,5 @@
 // vantrel: renders the library's callouts to PNG files.
+#include "Draw.h"
 #include "Gallery.h"
 
 #include <cstring>
@@ -15,6 +16,8 @@ Renders Vantrel callouts to PNG images.
 Commands:
   gallery -o FILE.png   draw every callout the library has, on a checkerboard
                         so that transparency shows, and write it to FILE.png
+  draw KIND ...         draw one callout to a PNG; 'vantrel draw --help' lists
+                        every kind, theme and option
   help                  show this text
 
 Options:
@@ -59,9 +62,11 @@ int main(int argc, char **argv) {
     std::string command = args.front();
     args.erase(args.begin());
     if (command == "-h" || command == "--help" || command == "help") {
-        std::cout << kUsage;
+        std::cout << kUsage << '\n' << VantrelTool::kDrawUsage;
         return 0;
     }
+    if (command == "draw")
+        return VantrelTool::runDraw(args);
     if (command == "gallery")
         return runGallery(args);
     return usageError("unknown command '" + command + "'");

@@ -36,9 +36,8 @@ public:
 // The rect as a polygon, its corners rounded by cornerRadius when above 0.
 class RectangleShape : public ShapeCallout {
 public:
-    RectangleShape(Color const &fill, std::string const &fillStyle, Point const &gradientDirection,
-                   Color const &stroke, double strokeWidth, std::string const &strokeStyle, double cornerRadius,
-                   Rect const &rect);
+    RectangleShape(Color const &fill, std::string const &fillStyle, Point const &gradientDirection, Color const &stroke,
+                   double strokeWidth, std::string const &strokeStyle, double cornerRadius, Rect const &rect);
 
     void drawIntoContext(DrawingContext *context, DrawOptions options, Rect referenceRect, int tailIndex,
                          DrawOutputMetaData *metadata) const override;
