@@ -12,6 +12,8 @@ namespace Vantrel {
 // Implicitly closed: the last point joins the first, which is not repeated.
 // Empty and one- or two-point polygons are legal values; drawing skips them.
 // Nothing fixes the direction a polygon runs in.
+struct Polygons;
+
 struct Polygon {
     std::vector<Point> points;
 
@@ -63,6 +65,9 @@ struct Polygon {
     double EdgeLength(int edge) const;
     // The vertex of index i, wrapping around in both directions.
     Point const &Vertex(int i) const;
+
+    // The union of the two polygons, as Polygons::UnionWith.
+    Polygons UnionWith(Polygon const &other) const;
 };
 
 // A list of outer outlines; there are no holes. Copies share the Polygon
@@ -73,6 +78,15 @@ struct Polygons {
     Polygons() = default;
     // Appends a heap copy of the polygon.
     void Add(Polygon const &p);
+
+    // The outlines of the union of both lists. Within one list polygons count
+    // by the even-odd rule, so two overlapping polygons of the same list
+    // cancel where they overlap. The result has no holes: hole contours are
+    // dropped, so a ring comes back solid. Orientation and first vertex of
+    // the result are the engine's. When one side has no polygon with points
+    // the result is a copy of the other, sharing its Polygon objects.
+    // Vertices with a non-finite coordinate are left out of their polygon.
+    Polygons UnionWith(Polygons const &other) const;
 };
 
 } // namespace Vantrel

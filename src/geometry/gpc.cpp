@@ -1,0 +1,973 @@
+// The scanbeam polygon clipper. The sweep runs a horizontal line from the
+// smallest y to the largest; between two successive vertex heights (a
+// scanbeam) the active edge table holds the edges crossing the band in order
+// of x. At each height and each crossing of two edges the four quadrants
+// around the point are classified as inside or outside the result, and the
+// class decides how output contours start, grow at either end, and merge.
+#include "gpc.h"
+
+#include <algorithm>
+#include <cfloat>
+#include <cmath>
+#include <cstdio>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <map>
+#include <vector>
+
+namespace Vantrel {
+
+namespace {
+
+double const GPC_EPSILON = DBL_EPSILON;
+
+enum { LEFT = 0, RIGHT = 1 };  // output ends, and parity
+enum { ABOVE = 0, BELOW = 1 }; // sides of a scanbeam boundary
+enum { CLIP = 0, SUBJ = 1 };   // operands
+
+enum bundle_state { UNBUNDLED = 0, BUNDLE_HEAD = 1, BUNDLE_TAIL = 2 };
+
+// Horizontal-edge state of one operand along a boundary: none, bottom, top.
+enum h_state { NH = 0, BH = 1, TH = 2 };
+
+// Vertex classes: tr + 2 tl + 4 br + 8 bl, each quadrant inside the result or not.
+enum vertex_type {
+    NUL = 0,  // empty non-intersection
+    EMX = 1,  // external maximum
+    ELI = 2,  // external left intermediate
+    TED = 3,  // top edge
+    ERI = 4,  // external right intermediate
+    RED = 5,  // right edge
+    IMM = 6,  // internal maximum and minimum
+    IMN = 7,  // internal minimum
+    EMN = 8,  // external minimum
+    EMM = 9,  // external maximum and minimum
+    LED = 10, // left edge
+    ILI = 11, // internal left intermediate
+    BED = 12, // bottom edge
+    IRI = 13, // internal right intermediate
+    IMX = 14, // internal maximum
+    FUL = 15  // full non-intersection
+};
+
+// Next horizontal state, by the current state and (exists - 1) * 2 + parity,
+// exists being 1 for an edge above the boundary only, 2 below only, 3 across.
+h_state const next_h_state[3][6] = {
+    {BH, TH, TH, BH, NH, NH},
+    {NH, NH, NH, NH, TH, TH},
+    {NH, NH, NH, NH, BH, BH},
+};
+
+bool EQ(double a, double b) { return std::fabs(a - b) <= GPC_EPSILON; }
+
+struct vertex_node {
+    double x, y;
+    vertex_node *next;
+};
+
+// One growing output contour. Contours merge: the node holding the merged
+// vertex list is the proxy of the others. Proxies are followed lazily, with
+// path halving, instead of redirecting every node of the output list at each
+// merge; the result is the same.
+struct polygon_node {
+    int active; // true while open or finished, later the vertex count
+    int hole;   // set when the contour closes
+    vertex_node *v[2];
+    polygon_node *next;
+    polygon_node *proxy;
+};
+
+struct edge_node {
+    gpc_vertex vertex; // scratch while the table is built
+    gpc_vertex bot;
+    gpc_vertex top;
+    double xb, xt, dx;
+    int type;
+    int bundle[2][2];
+    int bside[2];
+    bundle_state bstate[2];
+    polygon_node *outp[2];
+    edge_node *prev, *next; // in the active edge table
+    edge_node *pred, *succ; // in the bound
+    edge_node *next_bound;
+};
+
+struct lmt_node {
+    double y;
+    edge_node *first_bound;
+    lmt_node *next;
+};
+
+struct it_node {
+    edge_node *ie[2];
+    gpc_vertex point; // y relative to the bottom of the scanbeam
+    it_node *next;
+};
+
+struct st_node {
+    edge_node *edge;
+    double xb, xt, dx;
+    st_node *prev;
+};
+
+struct bbox {
+    double xmin, ymin, xmax, ymax;
+};
+
+// The one allocation rule: nothing for a size of 0, the end of the process on failure.
+template <class T> T *allocate(size_t count, char const *label) {
+    if (count == 0)
+        return nullptr;
+    void *p = count > SIZE_MAX / sizeof(T) ? nullptr : std::malloc(count * sizeof(T));
+    if (!p) {
+        std::fprintf(stderr, "gpc malloc failure: %s\n", label);
+        std::exit(0);
+    }
+    return static_cast<T *>(p);
+}
+
+int prevIndex(int i, int n) { return (i - 1 + n) % n; }
+int nextIndex(int i, int n) { return (i + 1) % n; }
+
+bool finite(gpc_vertex const &v) { return std::isfinite(v.x) && std::isfinite(v.y); }
+
+// The finite vertices of a contour that are optimal: not inside a horizontal
+// run, that is not with both neighbours at their own y. Writes them to out
+// when it is given, and returns their count.
+int optimalVertices(gpc_vertex_list const &contour, gpc_vertex *out) {
+    std::vector<gpc_vertex> kept;
+    gpc_vertex const *v = contour.vertex;
+    int n = contour.num_vertices;
+    bool allFinite = true;
+    for (int i = 0; i < n && allFinite; ++i)
+        allFinite = finite(v[i]);
+    if (!allFinite) {
+        for (int i = 0; i < n; ++i)
+            if (finite(v[i]))
+                kept.push_back(v[i]);
+        v = kept.data();
+        n = int(kept.size());
+    }
+    int count = 0;
+    for (int i = 0; i < n; ++i) {
+        if (v[prevIndex(i, n)].y != v[i].y || v[nextIndex(i, n)].y != v[i].y) {
+            if (out)
+                out[count] = v[i];
+            ++count;
+        }
+    }
+    return count;
+}
+
+// The local minima table while it is built: nodes by y, linked in order at the end.
+struct LmtBuilder {
+    std::map<double, lmt_node *> byY;
+
+    edge_node **boundList(double y) {
+        auto it = byY.find(y);
+        if (it == byY.end()) {
+            lmt_node *node = allocate<lmt_node>(1, "LMT insertion");
+            node->y = y;
+            node->first_bound = nullptr;
+            node->next = nullptr;
+            it = byY.emplace(y, node).first;
+        }
+        return &it->second->first_bound;
+    }
+
+    lmt_node *link() {
+        lmt_node *head = nullptr, **tail = &head;
+        for (auto &entry : byY) {
+            *tail = entry.second;
+            tail = &entry.second->next;
+        }
+        byY.clear();
+        return head;
+    }
+};
+
+// Before the first bound with a greater bot.x, or the same bot.x and a greater dx.
+void insertBound(edge_node **list, edge_node *e) {
+    while (*list && !((*list)->bot.x > e->bot.x || ((*list)->bot.x == e->bot.x && (*list)->dx > e->dx)))
+        list = &(*list)->next_bound;
+    e->next_bound = *list;
+    *list = e;
+}
+
+// Builds the bounds of one operand into one edge array, registering the
+// vertex heights and the bounds' minima. Returns the array (or null).
+edge_node *buildEdges(LmtBuilder &lmt, std::vector<double> &heights, gpc_polygon *p, int type, gpc_op op) {
+    int total = 0;
+    for (int c = 0; c < p->num_contours; ++c)
+        if (p->contour[c].num_vertices > 0)
+            total += optimalVertices(p->contour[c], nullptr);
+    edge_node *table = allocate<edge_node>(size_t(total), "edge table creation");
+
+    int edgeIndex = 0;
+    for (int c = 0; c < p->num_contours; ++c) {
+        gpc_vertex_list &contour = p->contour[c];
+        if (contour.num_vertices < 0) {
+            contour.num_vertices = -contour.num_vertices; // a mark of the overlap test
+            continue;
+        }
+        if (contour.num_vertices == 0)
+            continue;
+        // The contour's optimal vertices go into the scratch fields of the first entries.
+        std::vector<gpc_vertex> scratch(size_t(contour.num_vertices));
+        int n = optimalVertices(contour, scratch.data());
+        for (int i = 0; i < n; ++i) {
+            table[i].vertex = scratch[i];
+            heights.push_back(scratch[i].y);
+        }
+        auto y = [&](int i) { return table[i].vertex.y; };
+
+        // Forward bounds rise along NEXT, reverse bounds along PREV. The
+        // asymmetric comparisons give a flat bottom one bound of each kind.
+        for (int direction = 0; direction < 2; ++direction) {
+            bool forward = direction == 0;
+            auto step = [&](int i) { return forward ? nextIndex(i, n) : prevIndex(i, n); };
+            for (int min = 0; min < n; ++min) {
+                bool isMin = forward ? (y(prevIndex(min, n)) >= y(min) && y(nextIndex(min, n)) > y(min))
+                                     : (y(prevIndex(min, n)) > y(min) && y(nextIndex(min, n)) >= y(min));
+                if (!isMin)
+                    continue;
+                int edges = 1;
+                for (int m = step(min); y(step(m)) > y(m); m = step(m))
+                    ++edges;
+                edge_node *e = &table[edgeIndex];
+                edgeIndex += edges;
+                e[0].bstate[BELOW] = UNBUNDLED;
+                e[0].bundle[BELOW][CLIP] = false;
+                e[0].bundle[BELOW][SUBJ] = false;
+                int v = min;
+                for (int k = 0; k < edges; ++k) {
+                    e[k].xb = table[v].vertex.x;
+                    e[k].bot = table[v].vertex;
+                    v = step(v);
+                    e[k].top = table[v].vertex;
+                    e[k].dx = (e[k].top.x - e[k].bot.x) / (e[k].top.y - e[k].bot.y);
+                    e[k].type = type;
+                    e[k].outp[ABOVE] = nullptr;
+                    e[k].outp[BELOW] = nullptr;
+                    e[k].next = nullptr;
+                    e[k].prev = nullptr;
+                    e[k].succ = k + 1 < edges ? &e[k + 1] : nullptr;
+                    e[k].pred = k > 0 ? &e[k - 1] : nullptr;
+                    e[k].next_bound = nullptr;
+                    e[k].bside[CLIP] = op == GPC_DIFF ? RIGHT : LEFT;
+                    e[k].bside[SUBJ] = LEFT;
+                }
+                insertBound(lmt.boundList(table[min].vertex.y), e);
+            }
+        }
+    }
+    return table;
+}
+
+// The active edge table: ordered by xb, then dx; a new edge goes behind its equals.
+void addEdgeToAet(edge_node **aet, edge_node *edge) {
+    edge_node *prev = nullptr;
+    edge_node *at = *aet;
+    while (at && !(at->xb > edge->xb || (at->xb == edge->xb && at->dx > edge->dx))) {
+        prev = at;
+        at = at->next;
+    }
+    edge->prev = prev;
+    edge->next = at;
+    if (at)
+        at->prev = edge;
+    if (prev)
+        prev->next = edge;
+    else
+        *aet = edge;
+}
+
+// Ascending y; of equals the older comes first.
+void addIntersection(it_node **it, edge_node *edge0, edge_node *edge1, double x, double y) {
+    while (*it && !((*it)->point.y > y))
+        it = &(*it)->next;
+    it_node *node = allocate<it_node>(1, "IT insertion");
+    node->ie[0] = edge0;
+    node->ie[1] = edge1;
+    node->point.x = x;
+    node->point.y = y;
+    node->next = *it;
+    *it = node;
+}
+
+// Adds an edge to the sorted edge table, recording its crossings with the
+// edges it passes on the way.
+void addStEdge(st_node **st, it_node **it, edge_node *edge, double dy) {
+    while (*st) {
+        st_node *s = *st;
+        double den = (s->xt - s->xb) - (edge->xt - edge->xb);
+        if (edge->xt >= s->xt || edge->dx == s->dx || std::fabs(den) <= GPC_EPSILON)
+            break;
+        double r = (edge->xb - s->xb) / den;
+        double x = s->xb + r * (s->xt - s->xb);
+        addIntersection(it, s->edge, edge, x, r * dy);
+        st = &s->prev;
+    }
+    st_node *node = allocate<st_node>(1, "ST insertion");
+    node->edge = edge;
+    node->xb = edge->xb;
+    node->xt = edge->xt;
+    node->dx = edge->dx;
+    node->prev = *st;
+    *st = node;
+}
+
+void freeIntersections(it_node **it) {
+    while (*it) {
+        it_node *next = (*it)->next;
+        std::free(*it);
+        *it = next;
+    }
+}
+
+void buildIntersectionTable(it_node **it, edge_node *aet, double dy) {
+    freeIntersections(it);
+    st_node *st = nullptr;
+    for (edge_node *edge = aet; edge; edge = edge->next)
+        if (edge->bstate[ABOVE] == BUNDLE_HEAD || edge->bundle[ABOVE][CLIP] || edge->bundle[ABOVE][SUBJ])
+            addStEdge(&st, it, edge, dy);
+    while (st) {
+        st_node *prev = st->prev;
+        std::free(st);
+        st = prev;
+    }
+}
+
+// Output contours.
+
+polygon_node *proxyOf(polygon_node *p) {
+    while (p->proxy != p) {
+        p->proxy = p->proxy->proxy;
+        p = p->proxy;
+    }
+    return p;
+}
+
+vertex_node *newVertex(double x, double y) {
+    vertex_node *v = allocate<vertex_node>(1, "vertex node creation");
+    v->x = x;
+    v->y = y;
+    v->next = nullptr;
+    return v;
+}
+
+void addLocalMin(polygon_node **out, edge_node *edge, double x, double y) {
+    polygon_node *p = allocate<polygon_node>(1, "polygon node creation");
+    p->active = true;
+    p->hole = false; // written for real when the contour closes
+    p->v[LEFT] = p->v[RIGHT] = newVertex(x, y);
+    p->proxy = p;
+    p->next = *out;
+    *out = p;
+    edge->outp[ABOVE] = p;
+}
+
+// The sweep keeps every contour it adds to; a null one can only come from
+// input that rounding made inconsistent, and is passed over.
+void addLeft(polygon_node *p, double x, double y) {
+    if (!p)
+        return;
+    polygon_node *holder = proxyOf(p);
+    vertex_node *v = newVertex(x, y);
+    v->next = holder->v[LEFT];
+    holder->v[LEFT] = v;
+}
+
+void addRight(polygon_node *p, double x, double y) {
+    if (!p)
+        return;
+    polygon_node *holder = proxyOf(p);
+    vertex_node *v = newVertex(x, y);
+    holder->v[RIGHT]->next = v;
+    holder->v[RIGHT] = v;
+}
+
+// p's list goes in front of q's; the contour closes as a hole.
+void mergeLeft(polygon_node *p, polygon_node *q) {
+    if (!p || !q)
+        return;
+    polygon_node *from = proxyOf(p), *into = proxyOf(q);
+    into->hole = true;
+    if (from != into) {
+        from->v[RIGHT]->next = into->v[LEFT];
+        into->v[LEFT] = from->v[LEFT];
+        from->active = false;
+        from->proxy = into;
+    }
+}
+
+// p's list goes behind q's; the contour closes as an external one.
+void mergeRight(polygon_node *p, polygon_node *q) {
+    if (!p || !q)
+        return;
+    polygon_node *from = proxyOf(p), *into = proxyOf(q);
+    into->hole = false;
+    if (from != into) {
+        into->v[RIGHT]->next = from->v[LEFT];
+        into->v[RIGHT] = from->v[RIGHT];
+        from->active = false;
+        from->proxy = into;
+    }
+}
+
+void freeVertexList(vertex_node *v) {
+    while (v) {
+        vertex_node *next = v->next;
+        std::free(v);
+        v = next;
+    }
+}
+
+// Phase 2: contours whose box meets no contour of the other operand cannot
+// take part in an intersection (nor a clip contour in a difference); they are
+// marked by a negative vertex count, which building the edges repairs.
+void markNonOverlapping(gpc_polygon *subject, gpc_polygon *clip, gpc_op op) {
+    auto boxes = [](gpc_polygon *p) {
+        bbox *b = allocate<bbox>(size_t(p->num_contours), "Bounding box creation");
+        for (int c = 0; c < p->num_contours; ++c) {
+            b[c] = {DBL_MAX, DBL_MAX, -DBL_MAX, -DBL_MAX};
+            for (int v = 0; v < p->contour[c].num_vertices; ++v) {
+                gpc_vertex const &p0 = p->contour[c].vertex[v];
+                b[c].xmin = std::min(b[c].xmin, p0.x);
+                b[c].ymin = std::min(b[c].ymin, p0.y);
+                b[c].xmax = std::max(b[c].xmax, p0.x);
+                b[c].ymax = std::max(b[c].ymax, p0.y);
+            }
+        }
+        return b;
+    };
+    bbox *s = boxes(subject), *k = boxes(clip);
+    auto overlap = [](bbox const &a, bbox const &b) {
+        return !(a.xmax < b.xmin || b.xmax < a.xmin || a.ymax < b.ymin || b.ymax < a.ymin);
+    };
+    for (int c = 0; c < clip->num_contours; ++c) {
+        bool any = false;
+        for (int t = 0; t < subject->num_contours && !any; ++t)
+            any = overlap(s[t], k[c]);
+        if (!any)
+            clip->contour[c].num_vertices = -clip->contour[c].num_vertices;
+    }
+    if (op == GPC_INT) {
+        for (int t = 0; t < subject->num_contours; ++t) {
+            bool any = false;
+            for (int c = 0; c < clip->num_contours && !any; ++c)
+                any = overlap(s[t], k[c]);
+            if (!any)
+                subject->contour[t].num_vertices = -subject->contour[t].num_vertices;
+        }
+    }
+    std::free(s);
+    std::free(k);
+}
+
+void setEmpty(gpc_polygon *p) {
+    p->num_contours = 0;
+    p->hole = nullptr;
+    p->contour = nullptr;
+}
+
+// Quadrant occupancies of the operands combined by the operation.
+int combine(gpc_op op, int clipValue, int subjValue) {
+    switch (op) {
+    case GPC_DIFF:
+    case GPC_INT:
+        return clipValue && subjValue;
+    case GPC_XOR:
+        return clipValue ^ subjValue;
+    default:
+        return clipValue || subjValue;
+    }
+}
+
+// Whether e1 follows e0 across nothing but bundle tails: the order in which
+// a crossing can be carried out on the active edge table.
+bool crossingInOrder(edge_node *e0, edge_node *e1) {
+    for (edge_node *e = e0->next; e; e = e->next) {
+        if (e == e1)
+            return true;
+        if (e->bstate[ABOVE] != BUNDLE_TAIL)
+            return false;
+    }
+    return false;
+}
+
+// Phase 6: the contours of at least 3 vertices, most recently started first,
+// each list stored from its last vertex down.
+void writeResult(polygon_node *out, gpc_polygon *result) {
+    int contours = 0;
+    for (polygon_node *p = out; p; p = p->next) {
+        if (!p->active)
+            continue;
+        int count = 0;
+        for (vertex_node *v = p->v[LEFT]; v; v = v->next)
+            ++count;
+        if (count > 2) {
+            p->active = count;
+            ++contours;
+        } else {
+            freeVertexList(p->v[LEFT]);
+            p->active = 0;
+        }
+    }
+    if (contours == 0) {
+        setEmpty(result);
+    } else {
+        result->num_contours = contours;
+        result->hole = allocate<int>(size_t(contours), "hole flag table creation");
+        result->contour = allocate<gpc_vertex_list>(size_t(contours), "contour creation");
+        int c = 0;
+        for (polygon_node *p = out; p; p = p->next) {
+            if (!p->active)
+                continue;
+            result->hole[c] = p->hole;
+            result->contour[c].num_vertices = p->active;
+            result->contour[c].vertex = allocate<gpc_vertex>(size_t(p->active), "vertex creation");
+            int index = p->active - 1;
+            for (vertex_node *v = p->v[LEFT]; v;) {
+                vertex_node *next = v->next;
+                result->contour[c].vertex[index].x = v->x;
+                result->contour[c].vertex[index].y = v->y;
+                --index;
+                std::free(v);
+                v = next;
+            }
+            ++c;
+        }
+    }
+    while (out) {
+        polygon_node *next = out->next;
+        std::free(out);
+        out = next;
+    }
+}
+
+} // namespace
+
+void gpc_free_polygon(gpc_polygon *p) {
+    for (int c = 0; c < p->num_contours; ++c)
+        std::free(p->contour[c].vertex);
+    std::free(p->hole);
+    std::free(p->contour);
+    setEmpty(p);
+}
+
+void gpc_polygon_clip(gpc_op op, gpc_polygon *subject, gpc_polygon *clip, gpc_polygon *result) {
+    // Phase 1: trivial results.
+    if ((subject->num_contours == 0 && clip->num_contours == 0) ||
+        (subject->num_contours == 0 && (op == GPC_INT || op == GPC_DIFF)) ||
+        (clip->num_contours == 0 && op == GPC_INT)) {
+        if (result == subject || result == clip)
+            gpc_free_polygon(result); // an operand given as the result is replaced, not leaked
+        setEmpty(result);
+        return;
+    }
+
+    // Phase 2: contours that cannot meet.
+    if ((op == GPC_INT || op == GPC_DIFF) && subject->num_contours > 0 && clip->num_contours > 0)
+        markNonOverlapping(subject, clip, op);
+
+    // Phase 3: the local minima table.
+    LmtBuilder lmtBuilder;
+    std::vector<double> heights;
+    edge_node *subjectEdges = nullptr, *clipEdges = nullptr;
+    if (subject->num_contours > 0)
+        subjectEdges = buildEdges(lmtBuilder, heights, subject, SUBJ, op);
+    if (clip->num_contours > 0)
+        clipEdges = buildEdges(lmtBuilder, heights, clip, CLIP, op);
+    lmt_node *lmt = lmtBuilder.link();
+
+    auto freeTables = [&]() {
+        while (lmt) {
+            lmt_node *next = lmt->next;
+            std::free(lmt);
+            lmt = next;
+        }
+        std::free(subjectEdges);
+        std::free(clipEdges);
+    };
+    if (!lmt) {
+        freeTables();
+        if (result == subject || result == clip)
+            gpc_free_polygon(result);
+        setEmpty(result);
+        return;
+    }
+
+    // Phase 4: the scanbeam table, every distinct height in ascending order
+    // (of equal heights the first registered stays).
+    std::stable_sort(heights.begin(), heights.end());
+    heights.erase(std::unique(heights.begin(), heights.end()), heights.end());
+    if (result == subject || result == clip)
+        gpc_free_polygon(result);
+
+    // Phase 5: the sweep.
+    edge_node *aet = nullptr;
+    polygon_node *out = nullptr;
+    it_node *it = nullptr;
+    int parity[2] = {op == GPC_DIFF ? RIGHT : LEFT, LEFT};
+    lmt_node *localMin = lmt;
+    size_t const beams = heights.size();
+    size_t scanbeam = 0;
+    double yb = 0, yt = 0, dy = 0;
+
+    while (scanbeam < beams) {
+        yb = heights[scanbeam++];
+        if (scanbeam < beams) {
+            yt = heights[scanbeam];
+            dy = yt - yb;
+        }
+
+        // Boundary step: new bounds join the table.
+        if (localMin && localMin->y == yb) {
+            for (edge_node *edge = localMin->first_bound; edge; edge = edge->next_bound)
+                addEdgeToAet(&aet, edge);
+            localMin = localMin->next;
+        }
+        double px = -DBL_MAX;
+
+        // Bundles: coincident edges above the boundary act as one.
+        if (aet) {
+            edge_node *e0 = aet;
+            for (edge_node *e = aet; e; e = e->next) {
+                e->bundle[ABOVE][e->type] = e->top.y != yb;
+                e->bundle[ABOVE][!e->type] = false;
+                e->bstate[ABOVE] = UNBUNDLED;
+                if (e == aet || !e->bundle[ABOVE][e->type])
+                    continue;
+                if (EQ(e0->xb, e->xb) && EQ(e0->dx, e->dx) && e0->top.y != yb) {
+                    e->bundle[ABOVE][e->type] ^= e0->bundle[ABOVE][e->type];
+                    e->bundle[ABOVE][!e->type] = e0->bundle[ABOVE][!e->type];
+                    e->bstate[ABOVE] = BUNDLE_HEAD;
+                    e0->bundle[ABOVE][CLIP] = false;
+                    e0->bundle[ABOVE][SUBJ] = false;
+                    e0->bstate[ABOVE] = BUNDLE_TAIL;
+                }
+                e0 = e;
+            }
+        }
+
+        int horiz[2] = {NH, NH};
+        polygon_node *cf = nullptr;
+        for (edge_node *edge = aet; edge; edge = edge->next) {
+            int exists[2];
+            for (int x = 0; x < 2; ++x)
+                exists[x] = edge->bundle[ABOVE][x] + 2 * edge->bundle[BELOW][x];
+            if (!exists[CLIP] && !exists[SUBJ])
+                continue;
+
+            edge->bside[CLIP] = parity[CLIP];
+            edge->bside[SUBJ] = parity[SUBJ];
+
+            int q[4][2]; // br, bl, tr, tl per operand
+            for (int x = 0; x < 2; ++x) {
+                int p = parity[x], h = horiz[x] != NH;
+                q[0][x] = p;
+                q[1][x] = p ^ edge->bundle[ABOVE][x];
+                q[2][x] = p ^ h;
+                q[3][x] = p ^ h ^ edge->bundle[BELOW][x];
+            }
+            bool hClip = horiz[CLIP] != NH, hSubj = horiz[SUBJ] != NH;
+            bool bothSame = exists[CLIP] && exists[SUBJ] && parity[CLIP] == parity[SUBJ];
+            bool contributing;
+            if (op == GPC_XOR)
+                contributing = exists[CLIP] || exists[SUBJ];
+            else if (op == GPC_UNION)
+                contributing = (exists[CLIP] && (!parity[SUBJ] || hSubj)) ||
+                               (exists[SUBJ] && (!parity[CLIP] || hClip)) || bothSame;
+            else
+                contributing = (exists[CLIP] && (parity[SUBJ] || hSubj)) ||
+                               (exists[SUBJ] && (parity[CLIP] || hClip)) || bothSame;
+            int br = combine(op, q[0][CLIP], q[0][SUBJ]);
+            int bl = combine(op, q[1][CLIP], q[1][SUBJ]);
+            int tr = combine(op, q[2][CLIP], q[2][SUBJ]);
+            int tl = combine(op, q[3][CLIP], q[3][SUBJ]);
+
+            parity[CLIP] ^= edge->bundle[ABOVE][CLIP];
+            parity[SUBJ] ^= edge->bundle[ABOVE][SUBJ];
+            for (int x = 0; x < 2; ++x)
+                if (exists[x])
+                    horiz[x] = next_h_state[horiz[x]][(exists[x] - 1) * 2 + parity[x]];
+
+            if (!contributing)
+                continue;
+            double xb = edge->xb;
+            bool moved = xb != px;
+            switch (tr + 2 * tl + 4 * br + 8 * bl) {
+            case EMN:
+            case IMN:
+                addLocalMin(&out, edge, xb, yb);
+                px = xb;
+                cf = edge->outp[ABOVE];
+                break;
+            case ERI:
+                if (moved) {
+                    addRight(cf, xb, yb);
+                    px = xb;
+                }
+                edge->outp[ABOVE] = cf;
+                cf = nullptr;
+                break;
+            case ELI:
+                addLeft(edge->outp[BELOW], xb, yb);
+                px = xb;
+                cf = edge->outp[BELOW];
+                break;
+            case EMX:
+                if (moved) {
+                    addLeft(cf, xb, yb);
+                    px = xb;
+                }
+                mergeRight(cf, edge->outp[BELOW]);
+                cf = nullptr;
+                break;
+            case ILI:
+                if (moved) {
+                    addLeft(cf, xb, yb);
+                    px = xb;
+                }
+                edge->outp[ABOVE] = cf;
+                cf = nullptr;
+                break;
+            case IRI:
+                addRight(edge->outp[BELOW], xb, yb);
+                px = xb;
+                cf = edge->outp[BELOW];
+                edge->outp[BELOW] = nullptr;
+                break;
+            case IMX:
+                if (moved) {
+                    addRight(cf, xb, yb);
+                    px = xb;
+                }
+                mergeLeft(cf, edge->outp[BELOW]);
+                cf = nullptr;
+                edge->outp[BELOW] = nullptr;
+                break;
+            case IMM:
+                if (moved) {
+                    addRight(cf, xb, yb);
+                    px = xb;
+                }
+                mergeLeft(cf, edge->outp[BELOW]);
+                edge->outp[BELOW] = nullptr;
+                addLocalMin(&out, edge, xb, yb);
+                cf = edge->outp[ABOVE];
+                break;
+            case EMM:
+                if (moved) {
+                    addLeft(cf, xb, yb);
+                    px = xb;
+                }
+                mergeRight(cf, edge->outp[BELOW]);
+                edge->outp[BELOW] = nullptr;
+                addLocalMin(&out, edge, xb, yb);
+                cf = edge->outp[ABOVE];
+                break;
+            case LED:
+                if (edge->bot.y == yb)
+                    addLeft(edge->outp[BELOW], xb, yb);
+                edge->outp[ABOVE] = edge->outp[BELOW];
+                px = xb;
+                break;
+            case RED:
+                if (edge->bot.y == yb)
+                    addRight(edge->outp[BELOW], xb, yb);
+                edge->outp[ABOVE] = edge->outp[BELOW];
+                px = xb;
+                break;
+            default:
+                break;
+            }
+        }
+
+        // Ending step: edges that end here leave; the others get their x at the top.
+        for (edge_node *edge = aet; edge; edge = edge->next) {
+            if (edge->top.y == yb) {
+                edge_node *prev = edge->prev, *next = edge->next;
+                if (prev)
+                    prev->next = next;
+                else
+                    aet = next;
+                if (next)
+                    next->prev = prev;
+                // A bundle head that leaves hands its contour to its tail.
+                if (edge->bstate[BELOW] == BUNDLE_HEAD && prev && prev->bstate[BELOW] == BUNDLE_TAIL) {
+                    prev->outp[BELOW] = edge->outp[BELOW];
+                    prev->bstate[BELOW] = UNBUNDLED;
+                    if (prev->prev && prev->prev->bstate[BELOW] == BUNDLE_TAIL)
+                        prev->bstate[BELOW] = BUNDLE_HEAD;
+                }
+            } else {
+                edge->xt = edge->top.y == yt ? edge->top.x : edge->bot.x + edge->dx * (yt - edge->bot.y);
+            }
+        }
+        if (scanbeam >= beams)
+            break;
+
+        // Crossing step: crossings inside the scanbeam, lowest first.
+        buildIntersectionTable(&it, aet, dy);
+        for (it_node *node = it; node; node = node->next) {
+            edge_node *e0 = node->ie[0], *e1 = node->ie[1];
+            if (!crossingInOrder(e0, e1))
+                continue;
+            bool above0 = e0->bundle[ABOVE][CLIP] || e0->bundle[ABOVE][SUBJ];
+            bool above1 = e1->bundle[ABOVE][CLIP] || e1->bundle[ABOVE][SUBJ];
+            if (above0 && above1) {
+                polygon_node *p = e0->outp[ABOVE], *q = e1->outp[ABOVE];
+                double ix = node->point.x, iy = node->point.y + yb;
+                int in[2];
+                for (int x = 0; x < 2; ++x)
+                    in[x] = (e0->bundle[ABOVE][x] && !e0->bside[x]) || (e1->bundle[ABOVE][x] && e1->bside[x]) ||
+                            (!e0->bundle[ABOVE][x] && !e1->bundle[ABOVE][x] && e0->bside[x] && e1->bside[x]);
+                auto quadrant = [&](int with0, int with1) {
+                    int c = in[CLIP] ^ (with1 ? e1->bundle[ABOVE][CLIP] : 0) ^ (with0 ? e0->bundle[ABOVE][CLIP] : 0);
+                    int s = in[SUBJ] ^ (with1 ? e1->bundle[ABOVE][SUBJ] : 0) ^ (with0 ? e0->bundle[ABOVE][SUBJ] : 0);
+                    return combine(op, c, s);
+                };
+                int tr = quadrant(0, 0), tl = quadrant(0, 1), br = quadrant(1, 0), bl = quadrant(1, 1);
+                switch (tr + 2 * tl + 4 * br + 8 * bl) {
+                case EMN:
+                case IMN:
+                    addLocalMin(&out, e0, ix, iy);
+                    e1->outp[ABOVE] = e0->outp[ABOVE];
+                    break;
+                case ERI:
+                    if (p) {
+                        addRight(p, ix, iy);
+                        e1->outp[ABOVE] = p;
+                        e0->outp[ABOVE] = nullptr;
+                    }
+                    break;
+                case ELI:
+                    if (q) {
+                        addLeft(q, ix, iy);
+                        e0->outp[ABOVE] = q;
+                        e1->outp[ABOVE] = nullptr;
+                    }
+                    break;
+                case EMX:
+                    if (p && q) {
+                        addLeft(p, ix, iy);
+                        mergeRight(p, q);
+                        e0->outp[ABOVE] = nullptr;
+                        e1->outp[ABOVE] = nullptr;
+                    }
+                    break;
+                case ILI:
+                    if (p) {
+                        addLeft(p, ix, iy);
+                        e1->outp[ABOVE] = p;
+                        e0->outp[ABOVE] = nullptr;
+                    }
+                    break;
+                case IRI:
+                    if (q) {
+                        addRight(q, ix, iy);
+                        e0->outp[ABOVE] = q;
+                        e1->outp[ABOVE] = nullptr;
+                    }
+                    break;
+                case IMX:
+                    if (p && q) {
+                        addRight(p, ix, iy);
+                        mergeLeft(p, q);
+                        e0->outp[ABOVE] = nullptr;
+                        e1->outp[ABOVE] = nullptr;
+                    }
+                    break;
+                case IMM:
+                    if (p && q) {
+                        addRight(p, ix, iy);
+                        mergeLeft(p, q);
+                        addLocalMin(&out, e0, ix, iy);
+                        e1->outp[ABOVE] = e0->outp[ABOVE];
+                    }
+                    break;
+                case EMM:
+                    if (p && q) {
+                        addLeft(p, ix, iy);
+                        mergeRight(p, q);
+                        addLocalMin(&out, e0, ix, iy);
+                        e1->outp[ABOVE] = e0->outp[ABOVE];
+                    }
+                    break;
+                default:
+                    break;
+                }
+            }
+
+            // The bundles change sides as they cross.
+            for (int x = 0; x < 2; ++x) {
+                if (e0->bundle[ABOVE][x])
+                    e1->bside[x] = !e1->bside[x];
+                if (e1->bundle[ABOVE][x])
+                    e0->bside[x] = !e0->bside[x];
+            }
+
+            // Swap the bundles in the table: e0 with its tails moves behind e1.
+            edge_node *prev = e0->prev;
+            edge_node *next = e1->next;
+            if (next)
+                next->prev = e0;
+            if (e0->bstate[ABOVE] == BUNDLE_HEAD) {
+                while (prev) {
+                    prev = prev->prev;
+                    if (!prev || prev->bstate[ABOVE] != BUNDLE_TAIL)
+                        break;
+                }
+            }
+            if (!prev) {
+                aet->prev = e1;
+                e1->next = aet;
+                aet = e0->next;
+            } else {
+                prev->next->prev = e1;
+                e1->next = prev->next;
+                prev->next = e0->next;
+            }
+            e0->next->prev = prev;
+            e1->next->prev = e1;
+            e0->next = next;
+        }
+
+        // Closing step: bounds continue with their next edge, and the values
+        // above this boundary become those below the next.
+        for (edge_node *edge = aet, *next = nullptr; edge; edge = next) {
+            next = edge->next;
+            edge_node *succ = edge->succ;
+            edge_node *target = edge;
+            if (edge->top.y == yt && succ) {
+                target = succ;
+                edge_node *prev = edge->prev;
+                if (prev)
+                    prev->next = succ;
+                else
+                    aet = succ;
+                if (next)
+                    next->prev = succ;
+                succ->prev = prev;
+                succ->next = next;
+            } else {
+                edge->xb = edge->xt;
+            }
+            target->outp[BELOW] = edge->outp[ABOVE];
+            target->bstate[BELOW] = edge->bstate[ABOVE];
+            target->bundle[BELOW][CLIP] = edge->bundle[ABOVE][CLIP];
+            target->bundle[BELOW][SUBJ] = edge->bundle[ABOVE][SUBJ];
+            edge->outp[ABOVE] = nullptr;
+        }
+    }
+
+    // Phase 6: the result.
+    writeResult(out, result);
+    freeIntersections(&it);
+    freeTables();
+}
+
+} // namespace Vantrel

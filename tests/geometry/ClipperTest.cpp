@@ -1,0 +1,292 @@
+// The clipping engine against an independent point-sampling of the same sets,
+// and the union of outlines built on it.
+#include <vantrel/Vantrel.h>
+
+#include "geometry/gpc.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <random>
+#include <vector>
+
+using namespace Vantrel;
+
+namespace {
+
+using Contour = std::vector<gpc_vertex>;
+
+// Owns the vertex arrays of an operand built from plain contours.
+struct Operand {
+    std::vector<Contour> contours;
+    std::vector<gpc_vertex_list> lists;
+    std::vector<int> holes;
+    gpc_polygon polygon{};
+
+    explicit Operand(std::vector<Contour> c) : contours(std::move(c)) {
+        for (Contour &k : contours)
+            lists.push_back({int(k.size()), k.data()});
+        holes.assign(contours.size(), 0);
+        polygon.num_contours = int(lists.size());
+        polygon.hole = holes.empty() ? nullptr : holes.data();
+        polygon.contour = lists.empty() ? nullptr : lists.data();
+    }
+    gpc_polygon *get() { return &polygon; }
+};
+
+// Even-odd membership over every contour.
+bool inside(std::vector<Contour> const &contours, double x, double y) {
+    bool in = false;
+    for (Contour const &c : contours) {
+        size_t n = c.size();
+        for (size_t i = 0, j = n - 1; i < n; j = i++) {
+            gpc_vertex const &a = c[i], &b = c[j];
+            if ((a.y > y) != (b.y > y) && x < (b.x - a.x) * (y - a.y) / (b.y - a.y) + a.x)
+                in = !in;
+        }
+    }
+    return in;
+}
+
+std::vector<Contour> contoursOf(gpc_polygon const &p) {
+    std::vector<Contour> out;
+    for (int c = 0; c < p.num_contours; ++c)
+        out.emplace_back(p.contour[c].vertex, p.contour[c].vertex + p.contour[c].num_vertices);
+    return out;
+}
+
+double area(Contour const &c) {
+    double sum = 0;
+    for (size_t i = 0; i < c.size(); ++i) {
+        gpc_vertex const &a = c[i], &b = c[(i + 1) % c.size()];
+        sum += a.x * b.y - a.y * b.x;
+    }
+    return std::fabs(sum) / 2;
+}
+
+bool expected(gpc_op op, bool s, bool c) {
+    switch (op) {
+    case GPC_DIFF:
+        return s && !c;
+    case GPC_INT:
+        return s && c;
+    case GPC_XOR:
+        return s != c;
+    default:
+        return s || c;
+    }
+}
+
+Contour randomContour(std::mt19937 &rng, int n, bool snapped) {
+    std::uniform_real_distribution<double> coord(0, 100);
+    Contour c;
+    for (int i = 0; i < n; ++i) {
+        double x = coord(rng), y = coord(rng);
+        if (snapped) { // a coarse grid makes horizontal runs, shared vertices and coincident edges
+            x = std::round(x / 20) * 20;
+            y = std::round(y / 20) * 20;
+        }
+        c.push_back({x, y});
+    }
+    return c;
+}
+
+Contour starContour(std::mt19937 &rng, int n, double cx, double cy) {
+    std::uniform_real_distribution<double> radius(10, 45);
+    Contour c;
+    for (int i = 0; i < n; ++i) {
+        double a = 2 * M_PI * i / n, r = radius(rng);
+        c.push_back({cx + r * std::cos(a), cy + r * std::sin(a)});
+    }
+    return c;
+}
+
+struct Check {
+    double resultArea = 0, sampledArea = 0;
+    int mismatches = 0, samples = 0;
+};
+
+// Samples a grid over the box [-5, 105]: the result's even-odd membership
+// against the operation applied to the operands' memberships.
+Check check(gpc_op op, std::vector<Contour> const &s, std::vector<Contour> const &c) {
+    Operand subject(s), clip(c);
+    gpc_polygon result;
+    gpc_polygon_clip(op, subject.get(), clip.get(), &result);
+    std::vector<Contour> out = contoursOf(result);
+    Check k;
+    for (int i = 0; i < result.num_contours; ++i) {
+        EXPECT_GE(result.contour[i].num_vertices, 3);
+        k.resultArea += result.hole[i] ? -area(out[i]) : area(out[i]);
+    }
+    gpc_free_polygon(&result);
+    int const grid = 150;
+    double const step = 110.0 / grid;
+    for (int i = 0; i < grid; ++i)
+        for (int j = 0; j < grid; ++j) {
+            // Irrational offsets keep samples off the snapped grid's edges.
+            double x = -5 + (i + 0.5377) * step, y = -5 + (j + 0.4123) * step;
+            bool want = expected(op, inside(s, x, y), inside(c, x, y));
+            bool got = inside(out, x, y);
+            k.sampledArea += want ? step * step : 0;
+            k.mismatches += want != got;
+            ++k.samples;
+        }
+    return k;
+}
+
+char const *const kOpNames[] = {"diff", "int", "xor", "union"};
+
+} // namespace
+
+TEST(Clipper, RandomOperandsAgreeWithSampling) {
+    std::mt19937 rng(20261123);
+    for (int round = 0; round < 45; ++round) {
+        bool snapped = round % 3 == 0;
+        std::vector<Contour> s, c;
+        int contoursEach = 1 + round % 3;
+        for (int k = 0; k < contoursEach; ++k) {
+            s.push_back(round % 2 ? randomContour(rng, 4 + round % 9, snapped) : starContour(rng, 12, 45, 50));
+            c.push_back(randomContour(rng, 3 + (round * 7) % 11, snapped));
+        }
+        for (gpc_op op : {GPC_DIFF, GPC_INT, GPC_XOR, GPC_UNION}) {
+            Check k = check(op, s, c);
+            std::string what = std::string(kOpNames[op]) + " round " + std::to_string(round);
+            // Samples that land on an edge may fall either way; the rest must agree.
+            EXPECT_LE(k.mismatches, k.samples / 1000) << what;
+            EXPECT_NEAR(k.resultArea, k.sampledArea, 20.0 + 0.02 * k.sampledArea) << what;
+        }
+    }
+}
+
+TEST(Clipper, EmptyAndTrivialOperands) {
+    Operand empty({}), square({{{0, 0}, {10, 0}, {10, 10}, {0, 10}}});
+    for (gpc_op op : {GPC_DIFF, GPC_INT, GPC_XOR, GPC_UNION}) {
+        gpc_polygon r;
+        gpc_polygon_clip(op, empty.get(), empty.get(), &r);
+        EXPECT_EQ(r.num_contours, 0);
+        EXPECT_EQ(r.hole, nullptr);
+        EXPECT_EQ(r.contour, nullptr);
+    }
+    gpc_polygon r;
+    gpc_polygon_clip(GPC_INT, square.get(), empty.get(), &r);
+    EXPECT_EQ(r.num_contours, 0);
+    gpc_polygon_clip(GPC_DIFF, empty.get(), square.get(), &r);
+    EXPECT_EQ(r.num_contours, 0);
+    // Union, xor and a difference with an empty clip run the sweep and give the other back.
+    for (gpc_op op : {GPC_UNION, GPC_XOR, GPC_DIFF}) {
+        gpc_polygon_clip(op, square.get(), empty.get(), &r);
+        ASSERT_EQ(r.num_contours, 1) << op;
+        EXPECT_EQ(r.contour[0].num_vertices, 4);
+        EXPECT_DOUBLE_EQ(area(contoursOf(r)[0]), 100);
+        gpc_free_polygon(&r);
+    }
+    // Vertices inside horizontal runs are dropped; a flat contour has no edge at all.
+    Operand runs({{{0, 0}, {5, 0}, {10, 0}, {10, 10}, {5, 10}, {0, 10}}});
+    gpc_polygon_clip(GPC_UNION, runs.get(), empty.get(), &r);
+    ASSERT_EQ(r.num_contours, 1);
+    EXPECT_EQ(r.contour[0].num_vertices, 4);
+    gpc_free_polygon(&r);
+    Operand flat({{{0, 3}, {5, 3}, {9, 3}}});
+    gpc_polygon_clip(GPC_UNION, flat.get(), empty.get(), &r);
+    EXPECT_EQ(r.num_contours, 0);
+}
+
+TEST(Clipper, FarApartBoxesAndAliasedResults) {
+    Operand a({{{0, 0}, {10, 0}, {10, 10}, {0, 10}}}), b({{{50, 50}, {60, 50}, {60, 60}, {50, 60}}});
+    gpc_polygon r;
+    gpc_polygon_clip(GPC_INT, a.get(), b.get(), &r);
+    EXPECT_EQ(r.num_contours, 0);
+    EXPECT_EQ(a.polygon.contour[0].num_vertices, 4); // the marks are repaired
+    EXPECT_EQ(b.polygon.contour[0].num_vertices, 4);
+    gpc_polygon_clip(GPC_DIFF, a.get(), b.get(), &r);
+    EXPECT_EQ(r.num_contours, 1);
+    EXPECT_EQ(b.polygon.contour[0].num_vertices, 4);
+    // The result may be an operand: its old contours go, without a leak.
+    gpc_polygon_clip(GPC_UNION, &r, b.get(), &r);
+    EXPECT_EQ(r.num_contours, 2);
+    gpc_polygon_clip(GPC_INT, &r, b.get(), &r);
+    ASSERT_EQ(r.num_contours, 1);
+    EXPECT_DOUBLE_EQ(area(contoursOf(r)[0]), 100);
+    gpc_polygon_clip(GPC_INT, a.get(), &r, &r); // aliased clip, a trivial empty result
+    EXPECT_EQ(r.num_contours, 0);
+    gpc_free_polygon(&r);
+}
+
+TEST(Clipper, DegenerateInputSurvives) {
+    double const nan = std::numeric_limits<double>::quiet_NaN();
+    double const inf = std::numeric_limits<double>::infinity();
+    std::vector<std::vector<Contour>> inputs = {
+        {{}, {{1, 1}}, {{1, 1}, {2, 2}}},                              // empty, one and two points
+        {{{0, 0}, {0, 0}, {10, 0}, {10, 0}, {10, 10}, {0, 10}}},       // duplicates
+        {{{0, 0}, {5, 0}, {10, 0}, {10, 5}, {10, 10}, {5, 5}}},        // collinear
+        {{{0, 0}, {nan, 3}, {10, 0}, {10, 10}, {inf, 4}, {0, 10}}},    // non-finite
+        {{{-1e300, -1e300}, {1e300, -1e300}, {1e300, 1e300}}},         // huge
+        {{{0, 0}, {1e-300, 0}, {1e-300, 1e-300}, {0, 1e-300}}},        // tiny
+        {{{0, 0}, {10, 10}, {10, 0}, {0, 10}}, {{0, 0}, {10, 0}, {10, 10}, {0, 10}}}, // bow tie over a square
+        {{{nan, nan}, {nan, 1}, {2, nan}}},
+    };
+    for (size_t i = 0; i < inputs.size(); ++i)
+        for (size_t j = 0; j < inputs.size(); ++j)
+            for (gpc_op op : {GPC_DIFF, GPC_INT, GPC_XOR, GPC_UNION}) {
+                Operand s(inputs[i]), c(inputs[j]);
+                gpc_polygon r;
+                gpc_polygon_clip(op, s.get(), c.get(), &r);
+                for (int k = 0; k < r.num_contours; ++k)
+                    EXPECT_GE(r.contour[k].num_vertices, 3);
+                gpc_free_polygon(&r);
+            }
+    // Identical operands: the union is the operand, the difference and xor empty.
+    Contour square{{0, 0}, {10, 0}, {10, 10}, {0, 10}};
+    EXPECT_NEAR(check(GPC_UNION, {square}, {square}).resultArea, 100, 1e-9);
+    EXPECT_NEAR(check(GPC_XOR, {square}, {square}).resultArea, 0, 1e-9);
+    EXPECT_NEAR(check(GPC_DIFF, {square}, {square}).resultArea, 0, 1e-9);
+    // Coincident edges between the operands.
+    Contour right{{10, 0}, {20, 0}, {20, 10}, {10, 10}};
+    Check joined = check(GPC_UNION, {square}, {right});
+    EXPECT_NEAR(joined.resultArea, 200, 1e-9);
+}
+
+TEST(PolygonsUnion, OverlappingDisjointAndShortcuts) {
+    Polygon a(Rect(0, 0, 10, 10)), b(Rect(5, 5, 15, 15)), far(Rect(50, 50, 60, 60));
+    Polygons one = a.UnionWith(b);
+    ASSERT_EQ(one.polygons.size(), 1u);
+    EXPECT_EQ(one.polygons[0]->points.size(), 8u);
+    EXPECT_EQ(a.UnionWith(far).polygons.size(), 2u);
+
+    Polygons list, empty, onlyEmpty;
+    list.Add(a);
+    onlyEmpty.Add(Polygon());
+    Polygons copy = list.UnionWith(empty);
+    ASSERT_EQ(copy.polygons.size(), 1u);
+    EXPECT_EQ(copy.polygons[0].get(), list.polygons[0].get()); // shared, not copied
+    EXPECT_EQ(onlyEmpty.UnionWith(list).polygons[0].get(), list.polygons[0].get());
+    EXPECT_EQ(list.UnionWith(onlyEmpty).polygons[0].get(), list.polygons[0].get());
+}
+
+TEST(PolygonsUnion, RingsComeBackSolidAndOperandsCountEvenOdd) {
+    // A ring: an outer square and an inner one in the same list is a hole by
+    // the even-odd rule; the union drops the hole contour.
+    Polygons ring;
+    ring.Add(Polygon(Rect(0, 0, 30, 30)));
+    ring.Add(Polygon(Rect(10, 10, 20, 20)));
+    Polygons other;
+    other.Add(Polygon(Rect(25, 0, 40, 5)));
+    Polygons united = ring.UnionWith(other);
+    ASSERT_EQ(united.polygons.size(), 1u);
+    Rect bounds = united.polygons[0]->BoundingRect();
+    EXPECT_EQ(bounds, Rect(0, 0, 40, 30));
+
+    // Two overlapping polygons of one list cancel in their overlap first.
+    Polygons pair;
+    pair.Add(Polygon(Rect(0, 0, 20, 10)));
+    pair.Add(Polygon(Rect(10, 0, 30, 10)));
+    Polygons far;
+    far.Add(Polygon(Rect(100, 100, 101, 101)));
+    Polygons split = pair.UnionWith(far);
+    EXPECT_EQ(split.polygons.size(), 3u); // two halves and the far square
+    double total = 0;
+    for (auto const &p : split.polygons)
+        total += std::fabs(p->SignedArea());
+    EXPECT_NEAR(total, 100 + 100 + 1, 1e-9);
+}
