@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <functional>
 #include <iostream>
 #include <map>
 #include <string>
@@ -39,10 +40,17 @@ public:
     std::map<std::string, double> nanoseconds;
 };
 
-inline int runWithTargets(int argc, char **argv, std::vector<Target> const &targets) {
+using Times = std::map<std::string, double>;
+
+// Runs the benchmarks, lets report print what it likes from the times (in
+// nanoseconds, by benchmark name), then prints the target lines.
+inline int runWithTargets(int argc, char **argv, std::vector<Target> const &targets,
+                          std::function<void(Times const &)> const &report = nullptr) {
     benchmark::Initialize(&argc, argv);
     CollectingReporter reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
+    if (report)
+        report(reporter.nanoseconds);
     auto time = [&](std::string const &name, double &out) {
         auto it = reporter.nanoseconds.find(name);
         if (it == reporter.nanoseconds.end())

@@ -9,8 +9,8 @@
 #include <algorithm>
 #include <cfloat>
 #include <cmath>
-#include <cstdio>
 #include <cstdint>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <map>
@@ -126,6 +126,51 @@ template <class T> T *allocate(size_t count, char const *label) {
     }
     return static_cast<T *>(p);
 }
+
+// Nodes of one kind, handed out from blocks that are kept until the pool
+// goes: the sweep makes and drops nodes by the thousand, and one allocation
+// per node would dominate its time.
+template <class T> class NodePool {
+public:
+    explicit NodePool(char const *label) : label(label) {}
+    ~NodePool() {
+        for (T *block : blocks)
+            std::free(block);
+    }
+    NodePool(NodePool const &) = delete;
+    NodePool &operator=(NodePool const &) = delete;
+
+    T *take() {
+        if (used == kBlock) {
+            if (++current >= blocks.size())
+                blocks.push_back(allocate<T>(kBlock, label));
+            used = 0;
+        }
+        return &blocks[current][used++];
+    }
+    // Every node handed out is dropped; the blocks are used again.
+    void reset() {
+        current = 0;
+        used = blocks.empty() ? kBlock : 0;
+        if (blocks.empty())
+            current = size_t(-1);
+    }
+
+private:
+    static size_t const kBlock = 256;
+    char const *label;
+    std::vector<T *> blocks;
+    size_t current = size_t(-1);
+    size_t used = kBlock;
+};
+
+// The pools of one call of the engine.
+struct Pools {
+    NodePool<vertex_node> vertices{"vertex node creation"};
+    NodePool<polygon_node> contours{"polygon node creation"};
+    NodePool<it_node> intersections{"IT insertion"};
+    NodePool<st_node> sortedEdges{"ST insertion"};
+};
 
 int prevIndex(int i, int n) { return (i - 1 + n) % n; }
 int nextIndex(int i, int n) { return (i + 1) % n; }
@@ -284,10 +329,10 @@ void addEdgeToAet(edge_node **aet, edge_node *edge) {
 }
 
 // Ascending y; of equals the older comes first.
-void addIntersection(it_node **it, edge_node *edge0, edge_node *edge1, double x, double y) {
+void addIntersection(Pools &pools, it_node **it, edge_node *edge0, edge_node *edge1, double x, double y) {
     while (*it && !((*it)->point.y > y))
         it = &(*it)->next;
-    it_node *node = allocate<it_node>(1, "IT insertion");
+    it_node *node = pools.intersections.take();
     node->ie[0] = edge0;
     node->ie[1] = edge1;
     node->point.x = x;
@@ -298,7 +343,7 @@ void addIntersection(it_node **it, edge_node *edge0, edge_node *edge1, double x,
 
 // Adds an edge to the sorted edge table, recording its crossings with the
 // edges it passes on the way.
-void addStEdge(st_node **st, it_node **it, edge_node *edge, double dy) {
+void addStEdge(Pools &pools, st_node **st, it_node **it, edge_node *edge, double dy) {
     while (*st) {
         st_node *s = *st;
         double den = (s->xt - s->xb) - (edge->xt - edge->xb);
@@ -306,10 +351,10 @@ void addStEdge(st_node **st, it_node **it, edge_node *edge, double dy) {
             break;
         double r = (edge->xb - s->xb) / den;
         double x = s->xb + r * (s->xt - s->xb);
-        addIntersection(it, s->edge, edge, x, r * dy);
+        addIntersection(pools, it, s->edge, edge, x, r * dy);
         st = &s->prev;
     }
-    st_node *node = allocate<st_node>(1, "ST insertion");
+    st_node *node = pools.sortedEdges.take();
     node->edge = edge;
     node->xb = edge->xb;
     node->xt = edge->xt;
@@ -318,25 +363,15 @@ void addStEdge(st_node **st, it_node **it, edge_node *edge, double dy) {
     *st = node;
 }
 
-void freeIntersections(it_node **it) {
-    while (*it) {
-        it_node *next = (*it)->next;
-        std::free(*it);
-        *it = next;
-    }
-}
-
-void buildIntersectionTable(it_node **it, edge_node *aet, double dy) {
-    freeIntersections(it);
+// The table of the previous scanbeam is dropped.
+void buildIntersectionTable(Pools &pools, it_node **it, edge_node *aet, double dy) {
+    pools.intersections.reset();
+    *it = nullptr;
     st_node *st = nullptr;
     for (edge_node *edge = aet; edge; edge = edge->next)
         if (edge->bstate[ABOVE] == BUNDLE_HEAD || edge->bundle[ABOVE][CLIP] || edge->bundle[ABOVE][SUBJ])
-            addStEdge(&st, it, edge, dy);
-    while (st) {
-        st_node *prev = st->prev;
-        std::free(st);
-        st = prev;
-    }
+            addStEdge(pools, &st, it, edge, dy);
+    pools.sortedEdges.reset();
 }
 
 // Output contours.
@@ -349,19 +384,19 @@ polygon_node *proxyOf(polygon_node *p) {
     return p;
 }
 
-vertex_node *newVertex(double x, double y) {
-    vertex_node *v = allocate<vertex_node>(1, "vertex node creation");
+vertex_node *newVertex(Pools &pools, double x, double y) {
+    vertex_node *v = pools.vertices.take();
     v->x = x;
     v->y = y;
     v->next = nullptr;
     return v;
 }
 
-void addLocalMin(polygon_node **out, edge_node *edge, double x, double y) {
-    polygon_node *p = allocate<polygon_node>(1, "polygon node creation");
+void addLocalMin(Pools &pools, polygon_node **out, edge_node *edge, double x, double y) {
+    polygon_node *p = pools.contours.take();
     p->active = true;
     p->hole = false; // written for real when the contour closes
-    p->v[LEFT] = p->v[RIGHT] = newVertex(x, y);
+    p->v[LEFT] = p->v[RIGHT] = newVertex(pools, x, y);
     p->proxy = p;
     p->next = *out;
     *out = p;
@@ -370,20 +405,20 @@ void addLocalMin(polygon_node **out, edge_node *edge, double x, double y) {
 
 // The sweep keeps every contour it adds to; a null one can only come from
 // input that rounding made inconsistent, and is passed over.
-void addLeft(polygon_node *p, double x, double y) {
+void addLeft(Pools &pools, polygon_node *p, double x, double y) {
     if (!p)
         return;
     polygon_node *holder = proxyOf(p);
-    vertex_node *v = newVertex(x, y);
+    vertex_node *v = newVertex(pools, x, y);
     v->next = holder->v[LEFT];
     holder->v[LEFT] = v;
 }
 
-void addRight(polygon_node *p, double x, double y) {
+void addRight(Pools &pools, polygon_node *p, double x, double y) {
     if (!p)
         return;
     polygon_node *holder = proxyOf(p);
-    vertex_node *v = newVertex(x, y);
+    vertex_node *v = newVertex(pools, x, y);
     holder->v[RIGHT]->next = v;
     holder->v[RIGHT] = v;
 }
@@ -413,14 +448,6 @@ void mergeRight(polygon_node *p, polygon_node *q) {
         into->v[RIGHT] = from->v[RIGHT];
         from->active = false;
         from->proxy = into;
-    }
-}
-
-void freeVertexList(vertex_node *v) {
-    while (v) {
-        vertex_node *next = v->next;
-        std::free(v);
-        v = next;
     }
 }
 
@@ -498,7 +525,7 @@ bool crossingInOrder(edge_node *e0, edge_node *e1) {
 }
 
 // Phase 6: the contours of at least 3 vertices, most recently started first,
-// each list stored from its last vertex down.
+// each list stored from its last vertex down. The nodes belong to the pools.
 void writeResult(polygon_node *out, gpc_polygon *result) {
     int contours = 0;
     for (polygon_node *p = out; p; p = p->next) {
@@ -511,8 +538,7 @@ void writeResult(polygon_node *out, gpc_polygon *result) {
             p->active = count;
             ++contours;
         } else {
-            freeVertexList(p->v[LEFT]);
-            p->active = 0;
+            p->active = 0; // too few vertices to be a contour
         }
     }
     if (contours == 0) {
@@ -529,21 +555,12 @@ void writeResult(polygon_node *out, gpc_polygon *result) {
             result->contour[c].num_vertices = p->active;
             result->contour[c].vertex = allocate<gpc_vertex>(size_t(p->active), "vertex creation");
             int index = p->active - 1;
-            for (vertex_node *v = p->v[LEFT]; v;) {
-                vertex_node *next = v->next;
+            for (vertex_node *v = p->v[LEFT]; v; v = v->next, --index) {
                 result->contour[c].vertex[index].x = v->x;
                 result->contour[c].vertex[index].y = v->y;
-                --index;
-                std::free(v);
-                v = next;
             }
             ++c;
         }
-    }
-    while (out) {
-        polygon_node *next = out->next;
-        std::free(out);
-        out = next;
     }
 }
 
@@ -607,6 +624,7 @@ void gpc_polygon_clip(gpc_op op, gpc_polygon *subject, gpc_polygon *clip, gpc_po
         gpc_free_polygon(result);
 
     // Phase 5: the sweep.
+    Pools pools;
     edge_node *aet = nullptr;
     polygon_node *out = nullptr;
     it_node *it = nullptr;
@@ -681,8 +699,8 @@ void gpc_polygon_clip(gpc_op op, gpc_polygon *subject, gpc_polygon *clip, gpc_po
                 contributing = (exists[CLIP] && (!parity[SUBJ] || hSubj)) ||
                                (exists[SUBJ] && (!parity[CLIP] || hClip)) || bothSame;
             else
-                contributing = (exists[CLIP] && (parity[SUBJ] || hSubj)) ||
-                               (exists[SUBJ] && (parity[CLIP] || hClip)) || bothSame;
+                contributing =
+                    (exists[CLIP] && (parity[SUBJ] || hSubj)) || (exists[SUBJ] && (parity[CLIP] || hClip)) || bothSame;
             int br = combine(op, q[0][CLIP], q[0][SUBJ]);
             int bl = combine(op, q[1][CLIP], q[1][SUBJ]);
             int tr = combine(op, q[2][CLIP], q[2][SUBJ]);
@@ -701,26 +719,26 @@ void gpc_polygon_clip(gpc_op op, gpc_polygon *subject, gpc_polygon *clip, gpc_po
             switch (tr + 2 * tl + 4 * br + 8 * bl) {
             case EMN:
             case IMN:
-                addLocalMin(&out, edge, xb, yb);
+                addLocalMin(pools, &out, edge, xb, yb);
                 px = xb;
                 cf = edge->outp[ABOVE];
                 break;
             case ERI:
                 if (moved) {
-                    addRight(cf, xb, yb);
+                    addRight(pools, cf, xb, yb);
                     px = xb;
                 }
                 edge->outp[ABOVE] = cf;
                 cf = nullptr;
                 break;
             case ELI:
-                addLeft(edge->outp[BELOW], xb, yb);
+                addLeft(pools, edge->outp[BELOW], xb, yb);
                 px = xb;
                 cf = edge->outp[BELOW];
                 break;
             case EMX:
                 if (moved) {
-                    addLeft(cf, xb, yb);
+                    addLeft(pools, cf, xb, yb);
                     px = xb;
                 }
                 mergeRight(cf, edge->outp[BELOW]);
@@ -728,21 +746,21 @@ void gpc_polygon_clip(gpc_op op, gpc_polygon *subject, gpc_polygon *clip, gpc_po
                 break;
             case ILI:
                 if (moved) {
-                    addLeft(cf, xb, yb);
+                    addLeft(pools, cf, xb, yb);
                     px = xb;
                 }
                 edge->outp[ABOVE] = cf;
                 cf = nullptr;
                 break;
             case IRI:
-                addRight(edge->outp[BELOW], xb, yb);
+                addRight(pools, edge->outp[BELOW], xb, yb);
                 px = xb;
                 cf = edge->outp[BELOW];
                 edge->outp[BELOW] = nullptr;
                 break;
             case IMX:
                 if (moved) {
-                    addRight(cf, xb, yb);
+                    addRight(pools, cf, xb, yb);
                     px = xb;
                 }
                 mergeLeft(cf, edge->outp[BELOW]);
@@ -751,33 +769,33 @@ void gpc_polygon_clip(gpc_op op, gpc_polygon *subject, gpc_polygon *clip, gpc_po
                 break;
             case IMM:
                 if (moved) {
-                    addRight(cf, xb, yb);
+                    addRight(pools, cf, xb, yb);
                     px = xb;
                 }
                 mergeLeft(cf, edge->outp[BELOW]);
                 edge->outp[BELOW] = nullptr;
-                addLocalMin(&out, edge, xb, yb);
+                addLocalMin(pools, &out, edge, xb, yb);
                 cf = edge->outp[ABOVE];
                 break;
             case EMM:
                 if (moved) {
-                    addLeft(cf, xb, yb);
+                    addLeft(pools, cf, xb, yb);
                     px = xb;
                 }
                 mergeRight(cf, edge->outp[BELOW]);
                 edge->outp[BELOW] = nullptr;
-                addLocalMin(&out, edge, xb, yb);
+                addLocalMin(pools, &out, edge, xb, yb);
                 cf = edge->outp[ABOVE];
                 break;
             case LED:
                 if (edge->bot.y == yb)
-                    addLeft(edge->outp[BELOW], xb, yb);
+                    addLeft(pools, edge->outp[BELOW], xb, yb);
                 edge->outp[ABOVE] = edge->outp[BELOW];
                 px = xb;
                 break;
             case RED:
                 if (edge->bot.y == yb)
-                    addRight(edge->outp[BELOW], xb, yb);
+                    addRight(pools, edge->outp[BELOW], xb, yb);
                 edge->outp[ABOVE] = edge->outp[BELOW];
                 px = xb;
                 break;
@@ -811,7 +829,7 @@ void gpc_polygon_clip(gpc_op op, gpc_polygon *subject, gpc_polygon *clip, gpc_po
             break;
 
         // Crossing step: crossings inside the scanbeam, lowest first.
-        buildIntersectionTable(&it, aet, dy);
+        buildIntersectionTable(pools, &it, aet, dy);
         for (it_node *node = it; node; node = node->next) {
             edge_node *e0 = node->ie[0], *e1 = node->ie[1];
             if (!crossingInOrder(e0, e1))
@@ -834,26 +852,26 @@ void gpc_polygon_clip(gpc_op op, gpc_polygon *subject, gpc_polygon *clip, gpc_po
                 switch (tr + 2 * tl + 4 * br + 8 * bl) {
                 case EMN:
                 case IMN:
-                    addLocalMin(&out, e0, ix, iy);
+                    addLocalMin(pools, &out, e0, ix, iy);
                     e1->outp[ABOVE] = e0->outp[ABOVE];
                     break;
                 case ERI:
                     if (p) {
-                        addRight(p, ix, iy);
+                        addRight(pools, p, ix, iy);
                         e1->outp[ABOVE] = p;
                         e0->outp[ABOVE] = nullptr;
                     }
                     break;
                 case ELI:
                     if (q) {
-                        addLeft(q, ix, iy);
+                        addLeft(pools, q, ix, iy);
                         e0->outp[ABOVE] = q;
                         e1->outp[ABOVE] = nullptr;
                     }
                     break;
                 case EMX:
                     if (p && q) {
-                        addLeft(p, ix, iy);
+                        addLeft(pools, p, ix, iy);
                         mergeRight(p, q);
                         e0->outp[ABOVE] = nullptr;
                         e1->outp[ABOVE] = nullptr;
@@ -861,21 +879,21 @@ void gpc_polygon_clip(gpc_op op, gpc_polygon *subject, gpc_polygon *clip, gpc_po
                     break;
                 case ILI:
                     if (p) {
-                        addLeft(p, ix, iy);
+                        addLeft(pools, p, ix, iy);
                         e1->outp[ABOVE] = p;
                         e0->outp[ABOVE] = nullptr;
                     }
                     break;
                 case IRI:
                     if (q) {
-                        addRight(q, ix, iy);
+                        addRight(pools, q, ix, iy);
                         e0->outp[ABOVE] = q;
                         e1->outp[ABOVE] = nullptr;
                     }
                     break;
                 case IMX:
                     if (p && q) {
-                        addRight(p, ix, iy);
+                        addRight(pools, p, ix, iy);
                         mergeLeft(p, q);
                         e0->outp[ABOVE] = nullptr;
                         e1->outp[ABOVE] = nullptr;
@@ -883,17 +901,17 @@ void gpc_polygon_clip(gpc_op op, gpc_polygon *subject, gpc_polygon *clip, gpc_po
                     break;
                 case IMM:
                     if (p && q) {
-                        addRight(p, ix, iy);
+                        addRight(pools, p, ix, iy);
                         mergeLeft(p, q);
-                        addLocalMin(&out, e0, ix, iy);
+                        addLocalMin(pools, &out, e0, ix, iy);
                         e1->outp[ABOVE] = e0->outp[ABOVE];
                     }
                     break;
                 case EMM:
                     if (p && q) {
-                        addLeft(p, ix, iy);
+                        addLeft(pools, p, ix, iy);
                         mergeRight(p, q);
-                        addLocalMin(&out, e0, ix, iy);
+                        addLocalMin(pools, &out, e0, ix, iy);
                         e1->outp[ABOVE] = e0->outp[ABOVE];
                     }
                     break;
@@ -966,7 +984,6 @@ void gpc_polygon_clip(gpc_op op, gpc_polygon *subject, gpc_polygon *clip, gpc_po
 
     // Phase 6: the result.
     writeResult(out, result);
-    freeIntersections(&it);
     freeTables();
 }
 

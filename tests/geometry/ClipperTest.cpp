@@ -217,12 +217,12 @@ TEST(Clipper, DegenerateInputSurvives) {
     double const nan = std::numeric_limits<double>::quiet_NaN();
     double const inf = std::numeric_limits<double>::infinity();
     std::vector<std::vector<Contour>> inputs = {
-        {{}, {{1, 1}}, {{1, 1}, {2, 2}}},                              // empty, one and two points
-        {{{0, 0}, {0, 0}, {10, 0}, {10, 0}, {10, 10}, {0, 10}}},       // duplicates
-        {{{0, 0}, {5, 0}, {10, 0}, {10, 5}, {10, 10}, {5, 5}}},        // collinear
-        {{{0, 0}, {nan, 3}, {10, 0}, {10, 10}, {inf, 4}, {0, 10}}},    // non-finite
-        {{{-1e300, -1e300}, {1e300, -1e300}, {1e300, 1e300}}},         // huge
-        {{{0, 0}, {1e-300, 0}, {1e-300, 1e-300}, {0, 1e-300}}},        // tiny
+        {{}, {{1, 1}}, {{1, 1}, {2, 2}}},                                             // empty, one and two points
+        {{{0, 0}, {0, 0}, {10, 0}, {10, 0}, {10, 10}, {0, 10}}},                      // duplicates
+        {{{0, 0}, {5, 0}, {10, 0}, {10, 5}, {10, 10}, {5, 5}}},                       // collinear
+        {{{0, 0}, {nan, 3}, {10, 0}, {10, 10}, {inf, 4}, {0, 10}}},                   // non-finite
+        {{{-1e300, -1e300}, {1e300, -1e300}, {1e300, 1e300}}},                        // huge
+        {{{0, 0}, {1e-300, 0}, {1e-300, 1e-300}, {0, 1e-300}}},                       // tiny
         {{{0, 0}, {10, 10}, {10, 0}, {0, 10}}, {{0, 0}, {10, 0}, {10, 10}, {0, 10}}}, // bow tie over a square
         {{{nan, nan}, {nan, 1}, {2, nan}}},
     };

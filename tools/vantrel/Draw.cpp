@@ -172,15 +172,15 @@ DrawOptions parse(std::vector<std::string> const &args) {
 std::unique_ptr<BaseCallout> make(DrawOptions const &o) {
     if (o.kind == "custompath")
         return std::unique_ptr<BaseCallout>(new CustomPath(o.points, o.size, o.stroke, o.strokeWidth, o.strokeStyle));
-    using Factory = BaseCallout *(*)(Presets::Theme, Color const &, std::string const &, Point const &,
-                                     Color const &, double, std::string const &, Rect const &);
+    using Factory = BaseCallout *(*)(Presets::Theme, Color const &, std::string const &, Point const &, Color const &,
+                                     double, std::string const &, Rect const &);
     std::map<std::string, Factory> shapes{{"oval", Presets::createShapeOval},
                                           {"rectangle", Presets::createShapeRectangle},
                                           {"octagon", Presets::createShapeOctagon},
                                           {"triangle", Presets::createShapeTriangle},
                                           {"star", Presets::createShapeStar}};
-    return std::unique_ptr<BaseCallout>(shapes[o.variant](o.theme, o.fill, o.fillStyle, o.gradient, o.stroke,
-                                                          o.strokeWidth, o.strokeStyle, o.box));
+    return std::unique_ptr<BaseCallout>(
+        shapes[o.variant](o.theme, o.fill, o.fillStyle, o.gradient, o.stroke, o.strokeWidth, o.strokeStyle, o.box));
 }
 
 } // namespace
