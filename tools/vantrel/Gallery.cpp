@@ -193,6 +193,38 @@ void addShapeSections(std::vector<Section> &all) {
                     path("beyond the unit box", "-0.8,-0.6 0.8,0.6", 8, "solid")}});
 }
 
+// Outlines merged by the union: the operands in thin lines, the result filled.
+void addUnionSection(std::vector<Section> &all) {
+    auto unionTile = [](std::string label, Polygons a, Polygons b) {
+        return Tile{label, [=](CrossPlatformDrawingContext &c) {
+                        Polygons united = a.UnionWith(b);
+                        c.Fill(Color(0.3f, 0.6f, 0.95f, 0.8f), united);
+                        c.Stroke(kInk, 2, "solid", united);
+                        c.Stroke(kRed, 1, "dash", a);
+                        c.Stroke(kOrange, 1, "dash", b);
+                    }};
+    };
+    auto list = [](std::initializer_list<Polygon> polygons) {
+        Polygons p;
+        for (Polygon const &q : polygons)
+            p.Add(q);
+        return p;
+    };
+    Polygon body = Polygon(Rect(-60, -40, 60, 20)).RoundedCorners(14);
+    Polygon tail{Point(-20, 10), Point(-45, 50), Point(5, 15)};
+    all.push_back(
+        {"Union of outlines",
+         {unionTile("rounded body and tail", list({body}), list({tail})),
+          unionTile("two circles", list({Polygon::Circle(Point(-20, 0), 35)}),
+                    list({Polygon::Circle(Point(25, 5), 30)})),
+          unionTile("a ring comes back solid", list({Polygon(Rect(-45, -40, 45, 40)), Polygon(Rect(-20, -15, 20, 15))}),
+                    list({Polygon(Rect(30, -10, 65, 10))})),
+          unionTile("stars", list({starPolygon(50, 20, 5)}),
+                    list({Matrix3x3::Translation(Point(30, 10)) * starPolygon(35, 15, 6)})),
+          unionTile("far apart", list({Polygon(Rect(-60, -30, -20, 10))}),
+                    list({Polygon::Circle(Point(35, 10), 25)}))}});
+}
+
 std::vector<Section> sections() {
     std::vector<Section> all;
     all.push_back({"Ovals: solid and gradient fills",
@@ -281,6 +313,7 @@ std::vector<Section> sections() {
            }}}});
     addPathSections(all);
     addShapeSections(all);
+    addUnionSection(all);
     return all;
 }
 
