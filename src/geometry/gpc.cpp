@@ -205,40 +205,56 @@ int optimalVertices(gpc_vertex_list const &contour, gpc_vertex *out) {
     return count;
 }
 
+bool boundAfter(edge_node const *a, edge_node const *b) {
+    return a->bot.x > b->bot.x || (a->bot.x == b->bot.x && a->dx > b->dx);
+}
+
 // The local minima table while it is built: nodes by y, linked in order at the end.
 struct LmtBuilder {
-    std::map<double, lmt_node *> byY;
+    struct Entry {
+        lmt_node *node;
+        edge_node *last; // the greatest bound so far
+    };
+    std::map<double, Entry> byY;
 
-    edge_node **boundList(double y) {
+    // Into the bound list of height y, before the first bound with a greater
+    // bot.x, or the same bot.x and a greater dx. Bounds mostly come in that
+    // order, so the last one is tried first.
+    void insertBound(double y, edge_node *e) {
         auto it = byY.find(y);
         if (it == byY.end()) {
             lmt_node *node = allocate<lmt_node>(1, "LMT insertion");
             node->y = y;
             node->first_bound = nullptr;
             node->next = nullptr;
-            it = byY.emplace(y, node).first;
+            it = byY.emplace(y, Entry{node, nullptr}).first;
         }
-        return &it->second->first_bound;
+        Entry &entry = it->second;
+        e->next_bound = nullptr;
+        if (entry.last && !boundAfter(entry.last, e)) {
+            entry.last->next_bound = e; // the list is sorted: nothing in it is greater
+            entry.last = e;
+            return;
+        }
+        edge_node **list = &entry.node->first_bound;
+        while (*list && !boundAfter(*list, e))
+            list = &(*list)->next_bound;
+        e->next_bound = *list;
+        *list = e;
+        if (!e->next_bound)
+            entry.last = e;
     }
 
     lmt_node *link() {
         lmt_node *head = nullptr, **tail = &head;
         for (auto &entry : byY) {
-            *tail = entry.second;
-            tail = &entry.second->next;
+            *tail = entry.second.node;
+            tail = &entry.second.node->next;
         }
         byY.clear();
         return head;
     }
 };
-
-// Before the first bound with a greater bot.x, or the same bot.x and a greater dx.
-void insertBound(edge_node **list, edge_node *e) {
-    while (*list && !((*list)->bot.x > e->bot.x || ((*list)->bot.x == e->bot.x && (*list)->dx > e->dx)))
-        list = &(*list)->next_bound;
-    e->next_bound = *list;
-    *list = e;
-}
 
 // Builds the bounds of one operand into one edge array, registering the
 // vertex heights and the bounds' minima. Returns the array (or null).
@@ -303,17 +319,20 @@ edge_node *buildEdges(LmtBuilder &lmt, std::vector<double> &heights, gpc_polygon
                     e[k].bside[CLIP] = op == GPC_DIFF ? RIGHT : LEFT;
                     e[k].bside[SUBJ] = LEFT;
                 }
-                insertBound(lmt.boundList(table[min].vertex.y), e);
+                lmt.insertBound(table[min].vertex.y, e);
             }
         }
     }
     return table;
 }
 
-// The active edge table: ordered by xb, then dx; a new edge goes behind its equals.
-void addEdgeToAet(edge_node **aet, edge_node *edge) {
-    edge_node *prev = nullptr;
-    edge_node *at = *aet;
+// The active edge table: ordered by xb, then dx; a new edge goes behind its
+// equals. The bounds of one local minimum come in ascending order, so the walk
+// for each may start at the one added before it (from): every edge before that
+// one is not greater than it, and so not greater than this one.
+void addEdgeToAet(edge_node **aet, edge_node *edge, edge_node *from) {
+    edge_node *prev = from;
+    edge_node *at = from ? from->next : *aet;
     while (at && !(at->xb > edge->xb || (at->xb == edge->xb && at->dx > edge->dx))) {
         prev = at;
         at = at->next;
@@ -643,8 +662,11 @@ void gpc_polygon_clip(gpc_op op, gpc_polygon *subject, gpc_polygon *clip, gpc_po
 
         // Boundary step: new bounds join the table.
         if (localMin && localMin->y == yb) {
-            for (edge_node *edge = localMin->first_bound; edge; edge = edge->next_bound)
-                addEdgeToAet(&aet, edge);
+            edge_node *added = nullptr;
+            for (edge_node *edge = localMin->first_bound; edge; edge = edge->next_bound) {
+                addEdgeToAet(&aet, edge, added);
+                added = edge;
+            }
             localMin = localMin->next;
         }
         double px = -DBL_MAX;
