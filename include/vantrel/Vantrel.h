@@ -17,5 +17,7 @@
 
 #include <vantrel/callouts/BaseCallout.h>
 #include <vantrel/callouts/CustomPath.h>
+#include <vantrel/callouts/LineWithCaps.h>
+#include <vantrel/callouts/Lines.h>
 #include <vantrel/callouts/Presets.h>
 #include <vantrel/callouts/Shapes.h>

@@ -209,47 +209,34 @@ bool boundAfter(edge_node const *a, edge_node const *b) {
     return a->bot.x > b->bot.x || (a->bot.x == b->bot.x && a->dx > b->dx);
 }
 
-// The local minima table while it is built: nodes by y, linked in order at the end.
+// The local minima table while it is built: the bounds of each height in a
+// sorted array, linked into nodes in ascending height at the end.
 struct LmtBuilder {
-    struct Entry {
-        lmt_node *node;
-        edge_node *last; // the greatest bound so far
-    };
-    std::map<double, Entry> byY;
+    std::map<double, std::vector<edge_node *>> byY;
 
-    // Into the bound list of height y, before the first bound with a greater
-    // bot.x, or the same bot.x and a greater dx. Bounds mostly come in that
-    // order, so the last one is tried first.
+    // Before the first bound with a greater bot.x, or the same bot.x and a
+    // greater dx: after all its equals.
     void insertBound(double y, edge_node *e) {
-        auto it = byY.find(y);
-        if (it == byY.end()) {
-            lmt_node *node = allocate<lmt_node>(1, "LMT insertion");
-            node->y = y;
-            node->first_bound = nullptr;
-            node->next = nullptr;
-            it = byY.emplace(y, Entry{node, nullptr}).first;
-        }
-        Entry &entry = it->second;
-        e->next_bound = nullptr;
-        if (entry.last && !boundAfter(entry.last, e)) {
-            entry.last->next_bound = e; // the list is sorted: nothing in it is greater
-            entry.last = e;
-            return;
-        }
-        edge_node **list = &entry.node->first_bound;
-        while (*list && !boundAfter(*list, e))
-            list = &(*list)->next_bound;
-        e->next_bound = *list;
-        *list = e;
-        if (!e->next_bound)
-            entry.last = e;
+        std::vector<edge_node *> &bounds = byY[y];
+        auto at = std::upper_bound(bounds.begin(), bounds.end(), e,
+                                   [](edge_node const *a, edge_node const *b) { return boundAfter(b, a); });
+        bounds.insert(at, e);
     }
 
     lmt_node *link() {
         lmt_node *head = nullptr, **tail = &head;
         for (auto &entry : byY) {
-            *tail = entry.second.node;
-            tail = &entry.second.node->next;
+            lmt_node *node = allocate<lmt_node>(1, "LMT insertion");
+            node->y = entry.first;
+            node->next = nullptr;
+            edge_node **bound = &node->first_bound;
+            for (edge_node *e : entry.second) {
+                *bound = e;
+                bound = &e->next_bound;
+            }
+            *bound = nullptr;
+            *tail = node;
+            tail = &node->next;
         }
         byY.clear();
         return head;

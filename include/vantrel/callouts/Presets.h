@@ -3,6 +3,7 @@
 #pragma once
 
 #include <vantrel/callouts/BaseCallout.h>
+#include <vantrel/callouts/LineWithCaps.h>
 
 #include <string>
 
@@ -11,6 +12,17 @@ namespace Vantrel {
 class Presets {
 public:
     enum Theme { ThemeBasic = 0, ThemeModern = 1, ThemeUrban = 2, ThemeBold = 3, ThemeAbstract = 4 };
+    enum LineShaftType { LineShaftSolid = 0, LineShaftDotted = 1, LineShaftDashed = 2 };
+    enum LineEndCapType {
+        LineEndCapNone = 0,
+        LineEndCapCircle = 1,
+        LineEndCapDiamond = 2,
+        LineEndCapArrow = 3,
+        LineEndCapSquare = 4,
+        LineEndCapTail = 5,
+        LineEndCapBoldDiamond = 6,
+        LineEndCapDot = 7
+    };
 
     // Shapes. The long forms take the six style values; the short forms fill
     // solid (gradient direction (0, 0)). ThemeModern and values outside the
@@ -40,6 +52,19 @@ public:
                                         std::string const &strokeStyle, Rect const &rect);
     static BaseCallout *createShapeStar(Theme theme, Color const &fill, Color const &stroke, double strokeWidth,
                                         std::string const &strokeStyle, Rect const &rect);
+
+    // The theme's fixed line from start to end; null for ThemeModern and unknown themes.
+    static BaseCallout *createLine(Theme theme, Color const &color, Point const &start, Point const &end);
+    // The theme's double arrow (Urban: a single arrow of half width `width`).
+    // The strings reach no drawing: the first is kept by the Urban arrow,
+    // the last is dropped.
+    static BaseCallout *createArrow(Theme theme, Color const &color, double width, std::string const &style,
+                                    Point const &start, std::string startStyle, Point const &end, std::string endStyle);
+    // A line of the theme's shaft and cap designs, width wide; the first cap
+    // belongs to start. Every theme value gives a line: an unknown theme has
+    // a tapered shaft and no caps.
+    static LineWithCaps *createLine(Theme theme, Color const &color, double width, Point const &start, Point const &end,
+                                    LineShaftType shaftType, LineEndCapType startCapType, LineEndCapType endCapType);
 };
 
 } // namespace Vantrel
