@@ -2,6 +2,7 @@
 
 #include <vantrel/Vantrel.h>
 
+#include <algorithm>
 #include <cairo.h>
 #include <cmath>
 #include <cstdlib>
@@ -23,6 +24,10 @@ Draws one callout, sized to its bounds plus a margin, on a transparent backgroun
 Kinds:
   shape oval|rectangle|octagon|triangle|star   a shape from the theme's presets
   custompath                                   a polyline given by --points, stretched by --size
+  line                                         a line of the theme's shaft and end caps
+                                               (--shaft, --start-cap, --end-cap), or with
+                                               --fixed the theme's fixed line
+  arrow                                        the theme's arrow
 
 Options:
   -o, --output FILE.png     where to write the picture (required)
@@ -37,6 +42,14 @@ Options:
   --points "X,Y X,Y ..."    custompath: vertices, about -0.5 to 0.5 (default a zigzag)
   --size W,H                custompath: the factor applied to the vertices (default 160,120)
   --margin N                pixels around the callout's bounds (default 10)
+  --from X,Y, --to X,Y      line, arrow: the first and second point (default -100,40 and 100,-40)
+  --color COLOR             line, arrow: colour (default #3366cc)
+  --width N                 line: width; arrow: half width of the Urban arrow (default 8)
+  --shaft TYPE              line: solid, dotted or dashed (default solid)
+  --start-cap CAP           line: none, circle, diamond, arrow, square, tail, bolddiamond
+  --end-cap CAP                   or dot (default none and arrow); a theme without the cap
+                                  draws none
+  --fixed                   line: the theme's fixed line instead
 )";
 
 namespace {
@@ -100,7 +113,19 @@ struct DrawOptions {
     std::string points = "-0.5,0.5 -0.25,-0.5 0,0.3 0.25,-0.5 0.5,0.5";
     Point size = Point(160, 120);
     double margin = 10;
+    Point from = Point(-100, 40), to = Point(100, -40);
+    Color color = Color(0.2f, 0.4f, 0.8f);
+    double width = 8;
+    Presets::LineShaftType shaftType = Presets::LineShaftSolid;
+    Presets::LineEndCapType startCap = Presets::LineEndCapNone, endCap = Presets::LineEndCapArrow;
+    bool fixed = false;
 };
+
+Presets::LineEndCapType capType(std::string const &option, std::string const &text) {
+    std::vector<std::string> names{"none", "circle", "diamond", "arrow", "square", "tail", "bolddiamond", "dot"};
+    std::string name = oneOf(option, text, names);
+    return Presets::LineEndCapType(std::find(names.begin(), names.end(), name) - names.begin());
+}
 
 DrawOptions parse(std::vector<std::string> const &args) {
     DrawOptions o;
@@ -109,6 +134,10 @@ DrawOptions parse(std::vector<std::string> const &args) {
         std::string const &a = args[i];
         if (a.size() < 2 || a[0] != '-') {
             positional.push_back(a);
+            continue;
+        }
+        if (a == "--fixed") {
+            o.fixed = true;
             continue;
         }
         if (i + 1 >= args.size())
@@ -148,12 +177,28 @@ DrawOptions parse(std::vector<std::string> const &args) {
             o.size = Point(s[0], s[1]);
         } else if (a == "--margin")
             o.margin = numbers(a, v, 1)[0];
+        else if (a == "--from" || a == "--to") {
+            std::vector<double> p = numbers(a, v, 2);
+            (a == "--from" ? o.from : o.to) = Point(p[0], p[1]);
+        } else if (a == "--color")
+            o.color = colour(a, v);
+        else if (a == "--width")
+            o.width = numbers(a, v, 1)[0];
+        else if (a == "--shaft") {
+            std::string t = oneOf(a, v, {"solid", "dotted", "dashed"});
+            o.shaftType = t == "solid"    ? Presets::LineShaftSolid
+                          : t == "dotted" ? Presets::LineShaftDotted
+                                          : Presets::LineShaftDashed;
+        } else if (a == "--start-cap")
+            o.startCap = capType(a, v);
+        else if (a == "--end-cap")
+            o.endCap = capType(a, v);
         else
             throw UsageError("unknown option '" + a + "' for draw");
     }
     if (positional.empty())
-        throw UsageError("draw needs a kind: shape or custompath");
-    o.kind = oneOf("the kind", positional[0], {"shape", "custompath"});
+        throw UsageError("draw needs a kind: shape, custompath, line or arrow");
+    o.kind = oneOf("the kind", positional[0], {"shape", "custompath", "line", "arrow"});
     size_t expected = o.kind == "shape" ? 2 : 1;
     if (o.kind == "shape") {
         if (positional.size() < 2)
@@ -172,6 +217,14 @@ DrawOptions parse(std::vector<std::string> const &args) {
 std::unique_ptr<BaseCallout> make(DrawOptions const &o) {
     if (o.kind == "custompath")
         return std::unique_ptr<BaseCallout>(new CustomPath(o.points, o.size, o.stroke, o.strokeWidth, o.strokeStyle));
+    if (o.kind == "line" && o.fixed)
+        return std::unique_ptr<BaseCallout>(Presets::createLine(o.theme, o.color, o.from, o.to));
+    if (o.kind == "line")
+        return std::unique_ptr<BaseCallout>(
+            Presets::createLine(o.theme, o.color, o.width, o.from, o.to, o.shaftType, o.startCap, o.endCap));
+    if (o.kind == "arrow")
+        return std::unique_ptr<BaseCallout>(
+            Presets::createArrow(o.theme, o.color, o.width, "solid", o.from, "", o.to, ""));
     using Factory = BaseCallout *(*)(Presets::Theme, Color const &, std::string const &, Point const &, Color const &,
                                      double, std::string const &, Rect const &);
     std::map<std::string, Factory> shapes{{"oval", Presets::createShapeOval},
@@ -195,7 +248,8 @@ int runDraw(std::vector<std::string> const &args) {
         DrawOptions o = parse(args);
         std::unique_ptr<BaseCallout> callout = make(o);
         if (!callout)
-            throw UsageError("theme " + o.themeName + " has no " + o.variant);
+            throw UsageError("theme " + o.themeName + " has no " +
+                             (o.variant.empty() ? (o.fixed ? "fixed " : "") + o.kind : o.variant));
         Rect bounds = callout->boundingRect().Expanded(o.margin);
         RectInt pixels = bounds.ToContainingRectInt();
         int64_t width = int64_t(pixels.right) - pixels.left, height = int64_t(pixels.bottom) - pixels.top;

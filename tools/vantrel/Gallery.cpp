@@ -225,6 +225,72 @@ void addUnionSection(std::vector<Section> &all) {
                     list({Polygon::Circle(Point(35, 10), 25)}))}});
 }
 
+// For each theme: every shaft type with the caps the theme knows, at two
+// widths, then the fixed line and arrow, and a short arrow that shrinks.
+void addLineSections(std::vector<Section> &all) {
+    using Cap = Presets::LineEndCapType;
+    struct ThemeCaps {
+        ThemeName theme;
+        std::vector<Cap> caps;
+    } const themes[] = {
+        {kThemes[0],
+         {Presets::LineEndCapCircle, Presets::LineEndCapDiamond, Presets::LineEndCapArrow, Presets::LineEndCapDot}},
+        {kThemes[1],
+         {Presets::LineEndCapCircle, Presets::LineEndCapDiamond, Presets::LineEndCapArrow, Presets::LineEndCapDot}},
+        {kThemes[2],
+         {Presets::LineEndCapDiamond, Presets::LineEndCapArrow, Presets::LineEndCapSquare, Presets::LineEndCapDot}},
+        {kThemes[3],
+         {Presets::LineEndCapArrow, Presets::LineEndCapBoldDiamond, Presets::LineEndCapDot, Presets::LineEndCapNone}},
+        {kThemes[4],
+         {Presets::LineEndCapCircle, Presets::LineEndCapArrow, Presets::LineEndCapTail, Presets::LineEndCapDot}},
+    };
+    char const *const shaftNames[] = {"solid", "dotted", "dashed"};
+    Color const colours[] = {kBlue, kRed, kGreen, kOrange};
+    for (ThemeCaps const &t : themes) {
+        Section section{
+            std::string("Lines, ") + t.theme.name + ": each shaft with the theme's caps, fixed line and arrows", {}};
+        for (double width : {4.0, 8.0})
+            for (int shaft = 0; shaft < 3; ++shaft) {
+                std::vector<Cap> caps = t.caps;
+                section.tiles.push_back({std::string(shaftNames[shaft]) + ", width " + std::to_string(int(width)),
+                                         [=](CrossPlatformDrawingContext &c) {
+                                             // One line per cap, from that cap to the next one in the list.
+                                             for (size_t i = 0; i < caps.size(); ++i) {
+                                                 double y = -42 + 28.0 * i;
+                                                 std::unique_ptr<LineWithCaps> line(Presets::createLine(
+                                                     t.theme.theme, colours[i], width, Point(-75, y + 6),
+                                                     Point(75, y - 6), Presets::LineShaftType(shaft), caps[i],
+                                                     caps[(i + 1) % caps.size()]));
+                                                 drawCallout(c, *line);
+                                             }
+                                         }});
+            }
+        Presets::Theme theme = t.theme.theme;
+        section.tiles.push_back({"fixed line", [=](CrossPlatformDrawingContext &c) {
+                                     std::unique_ptr<BaseCallout> line(
+                                         Presets::createLine(theme, kBlue, Point(-70, 30), Point(70, -30)));
+                                     if (line)
+                                         drawCallout(c, *line);
+                                 }});
+        section.tiles.push_back({"arrow", [=](CrossPlatformDrawingContext &c) {
+                                     std::unique_ptr<BaseCallout> arrow(Presets::createArrow(
+                                         theme, kOrange, 6, "solid", Point(-75, 25), "", Point(75, -25), ""));
+                                     if (arrow)
+                                         drawCallout(c, *arrow);
+                                 }});
+        section.tiles.push_back({"short arrow shrinks", [=](CrossPlatformDrawingContext &c) {
+                                     std::unique_ptr<BaseCallout> arrow(Presets::createArrow(
+                                         theme, kGreen, 6, "solid", Point(-30, 0), "", Point(30, 0), ""));
+                                     if (arrow)
+                                         drawCallout(c, *arrow);
+                                 }});
+        if (theme == Presets::ThemeModern)
+            for (int i = 0; i < 3; ++i)
+                section.tiles[6 + i].label = "modern: none";
+        all.push_back(section);
+    }
+}
+
 std::vector<Section> sections() {
     std::vector<Section> all;
     all.push_back({"Ovals: solid and gradient fills",
@@ -314,6 +380,7 @@ std::vector<Section> sections() {
     addPathSections(all);
     addShapeSections(all);
     addUnionSection(all);
+    addLineSections(all);
     return all;
 }
 
