@@ -15,6 +15,10 @@
 
 #include <vantrel/geometry/Path.h>
 
+#include <vantrel/text/PangoFonts.h>
+#include <vantrel/text/TextAttributeList.h>
+#include <vantrel/text/UTF8StringUtil.h>
+
 #include <vantrel/callouts/BaseCallout.h>
 #include <vantrel/callouts/CustomPath.h>
 #include <vantrel/callouts/LineWithCaps.h>

@@ -18,12 +18,14 @@ namespace {
 
 // The types pangoAttributes asks for, in order; the last is the private spacing type.
 std::vector<PangoAttrType> listedTypes() {
-    return {PANGO_ATTR_LANGUAGE,   PANGO_ATTR_FAMILY,          PANGO_ATTR_STYLE,
-            PANGO_ATTR_WEIGHT,     PANGO_ATTR_STRETCH,         PANGO_ATTR_SIZE,
-            PANGO_ATTR_FONT_DESC,  PANGO_ATTR_FOREGROUND,      PANGO_ATTR_BACKGROUND,
-            PANGO_ATTR_UNDERLINE,  PANGO_ATTR_STRIKETHROUGH,   PANGO_ATTR_LETTER_SPACING,
-            PANGO_ATTR_UNDERLINE_COLOR, PANGO_ATTR_STRIKETHROUGH_COLOR, PANGO_ATTR_ABSOLUTE_SIZE,
-            characterSpacingType()};
+    return {PANGO_ATTR_LANGUAGE,        PANGO_ATTR_FAMILY,
+            PANGO_ATTR_STYLE,           PANGO_ATTR_WEIGHT,
+            PANGO_ATTR_STRETCH,         PANGO_ATTR_SIZE,
+            PANGO_ATTR_FONT_DESC,       PANGO_ATTR_FOREGROUND,
+            PANGO_ATTR_BACKGROUND,      PANGO_ATTR_UNDERLINE,
+            PANGO_ATTR_STRIKETHROUGH,   PANGO_ATTR_LETTER_SPACING,
+            PANGO_ATTR_UNDERLINE_COLOR, PANGO_ATTR_STRIKETHROUGH_COLOR,
+            PANGO_ATTR_ABSOLUTE_SIZE,   characterSpacingType()};
 }
 
 guint16 channel(float c) { return guint16(c * 65535.0f); }
@@ -90,7 +92,10 @@ void TextAttributeList::addFontNameAttribute(Range const &range, std::string con
 void TextAttributeList::addFontSizeAttribute(Range const &range, double points) {
     double units = points * 1024.0;
     // Truncated; sizes beyond what an int holds saturate rather than being undefined.
-    int size = units >= 2147483647.0 ? 2147483647 : units <= -2147483648.0 ? -2147483647 - 1 : units == units ? int(units) : 0;
+    int size = units >= 2147483647.0    ? 2147483647
+               : units <= -2147483648.0 ? -2147483647 - 1
+               : units == units         ? int(units)
+                                        : 0;
     change(pango_attr_size_new(size), range);
 }
 
@@ -235,7 +240,10 @@ void TextAttributeList::applyCharacterSpacing() {
                 continue;
             int points = reinterpret_cast<PangoAttrSize *>(s)->size / 1024;
             double units = points * characterSpacingValue(c) * 1024.0;
-            int spacing = units >= 2147483647.0 ? 2147483647 : units <= -2147483648.0 ? -2147483647 - 1 : units == units ? int(units) : 0;
+            int spacing = units >= 2147483647.0    ? 2147483647
+                          : units <= -2147483648.0 ? -2147483647 - 1
+                          : units == units         ? int(units)
+                                                   : 0;
             PangoAttribute *letterSpacing = pango_attr_letter_spacing_new(spacing);
             letterSpacing->start_index = std::max(c->start_index, s->start_index);
             letterSpacing->end_index = std::min(c->end_index, s->end_index);

@@ -39,7 +39,8 @@ int UTF8StringUtil::characterOffsetFromByteOffset(std::string const &text, int b
 
 Range UTF8StringUtil::byteOffsetRangeFromCharacterOffsetRange(std::string const &text, Range const &characters) {
     size_t size = std::strlen(text.c_str());
-    return Range(int(advance(text.data(), size, characters.start())), int(advance(text.data(), size, characters.end())));
+    return Range(int(advance(text.data(), size, characters.start())),
+                 int(advance(text.data(), size, characters.end())));
 }
 
 Range UTF8StringUtil::byteOffsetRangeOfText(std::string const &text) {

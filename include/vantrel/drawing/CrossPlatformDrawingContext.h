@@ -101,6 +101,12 @@ public:
     // The Bitmap drawn into; null for a recording context.
     Bitmap *bitmap() const;
 
+    // Adds a folder to search for font files after the system's, listed flat
+    // (not its subfolders). Add folders before drawing: the list is not
+    // guarded, and a family that was searched for and not found is not
+    // searched for again.
+    static void addFontSearchFolder(std::string const &folder);
+
     struct Impl;
 
 protected:
