@@ -24,7 +24,8 @@ PangoAttrClass const &spacingClass() {
     static PangoAttrClass klass;
     static std::once_flag once;
     std::call_once(once, [] {
-        klass.type = characterSpacingType();
+        int type = characterSpacingType();
+        std::memcpy(&klass.type, &type, sizeof type);
         klass.copy = copySpacing;
         klass.destroy = destroySpacing;
         klass.equal = equalSpacing;
@@ -54,8 +55,8 @@ struct LoadTimeSetUp {
 
 } // namespace
 
-PangoAttrType characterSpacingType() {
-    static PangoAttrType const type = pango_attr_type_register("vtl_character_spacing");
+int characterSpacingType() {
+    static int const type = int(pango_attr_type_register("vtl_character_spacing"));
     return type;
 }
 

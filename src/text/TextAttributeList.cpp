@@ -17,7 +17,7 @@ PangoAttributeContainer::~PangoAttributeContainer() { pango_attribute_destroy(mA
 namespace {
 
 // The types pangoAttributes asks for, in order; the last is the private spacing type.
-std::vector<PangoAttrType> listedTypes() {
+std::vector<int> listedTypes() {
     return {PANGO_ATTR_LANGUAGE,        PANGO_ATTR_FAMILY,
             PANGO_ATTR_STYLE,           PANGO_ATTR_WEIGHT,
             PANGO_ATTR_STRETCH,         PANGO_ATTR_SIZE,
@@ -130,13 +130,13 @@ void TextAttributeList::addPangoAttribute(PangoAttribute *attribute) {
 }
 
 std::vector<PangoAttribute *> TextAttributeList::pangoAttributes() const {
-    static std::vector<PangoAttrType> const types = listedTypes();
+    static std::vector<int> const types = listedTypes();
     std::set<PangoAttribute *> found;
     lockList();
     PangoAttrIterator *it = pango_attr_list_get_iterator(attrList->list);
     do {
-        for (PangoAttrType type : types)
-            if (PangoAttribute *a = pango_attr_iterator_get(it, type))
+        for (int type : types)
+            if (PangoAttribute *a = pango_attr_iterator_get(it, PangoAttrType(type)))
                 found.insert(a);
     } while (pango_attr_iterator_next(it));
     pango_attr_iterator_destroy(it);
@@ -229,7 +229,7 @@ void TextAttributeList::applyCharacterSpacing() {
     std::vector<PangoAttribute *> all = pangoAttributes();
     std::vector<PangoAttribute *> sizes, spacings;
     for (PangoAttribute *a : all) {
-        if (a->klass->type == PANGO_ATTR_SIZE)
+        if (attributeType(a) == PANGO_ATTR_SIZE)
             sizes.push_back(a);
         else if (isCustomCharacterSpacingAttribute(a))
             spacings.push_back(a);
@@ -252,11 +252,11 @@ void TextAttributeList::applyCharacterSpacing() {
 }
 
 bool TextAttributeList::isCustomCharacterSpacingAttribute(PangoAttribute const *attribute) {
-    return attribute->klass->type == characterSpacingType();
+    return attributeType(attribute) == characterSpacingType();
 }
 
 TextAttributeList::AttributeType TextAttributeList::typeOfPangoAttribute(PangoAttribute const *attribute) {
-    return AttributeType(attribute->klass->type);
+    return AttributeType(attributeType(attribute));
 }
 
 Range TextAttributeList::rangeOfPangoAttribute(PangoAttribute const *attribute) {
@@ -264,7 +264,7 @@ Range TextAttributeList::rangeOfPangoAttribute(PangoAttribute const *attribute) 
 }
 
 template <> int TextAttributeList::valueOfPangoAttribute<int>(PangoAttribute const *attribute) {
-    switch (attribute->klass->type) {
+    switch (attributeType(attribute)) {
     case PANGO_ATTR_SIZE:
         return reinterpret_cast<PangoAttrSize const *>(attribute)->size / 1024;
     case PANGO_ATTR_STYLE:
@@ -291,14 +291,14 @@ template <> double TextAttributeList::valueOfPangoAttribute<double>(PangoAttribu
 }
 
 template <> std::string TextAttributeList::valueOfPangoAttribute<std::string>(PangoAttribute const *attribute) {
-    if (attribute->klass->type != PANGO_ATTR_FAMILY)
+    if (attributeType(attribute) != PANGO_ATTR_FAMILY)
         throw std::runtime_error("Invalid template parameter");
     char const *value = reinterpret_cast<PangoAttrString const *>(attribute)->value;
     return value ? value : "";
 }
 
 template <> Color TextAttributeList::valueOfPangoAttribute<Color>(PangoAttribute const *attribute) {
-    switch (attribute->klass->type) {
+    switch (attributeType(attribute)) {
     case PANGO_ATTR_FOREGROUND:
     case PANGO_ATTR_BACKGROUND:
     case PANGO_ATTR_UNDERLINE_COLOR:
