@@ -17,6 +17,7 @@
 #include <mutex>
 #include <pango/pangocairo.h>
 #include <set>
+#include <unordered_map>
 
 namespace Vantrel {
 
@@ -35,13 +36,10 @@ PangoFontMap *newFontMap() {
     return map;
 }
 
-bool containsIgnoringCase(std::string text, std::string part) {
-    std::ctype<char> const &ctype = std::use_facet<std::ctype<char>>(std::locale());
-    for (char &c : text)
-        c = ctype.tolower(c);
-    for (char &c : part)
-        c = ctype.tolower(c);
-    return text.find(part) != std::string::npos;
+// Lower case through the global locale's ctype, byte by byte.
+std::string lowered(std::string text) {
+    std::use_facet<std::ctype<char>>(std::locale()).tolower(&text[0], &text[0] + text.size());
+    return text;
 }
 
 std::string withoutWhitespace(std::string const &text) {
@@ -52,80 +50,132 @@ std::string withoutWhitespace(std::string const &text) {
     return out;
 }
 
-// The names of a font file that matching looks at, read once per process:
-// a family that is searched for later is matched against these instead of
-// opening every file again, with the same results.
+// The names of font files that matching looks at are read once per process,
+// and each distinct name is kept once: font files repeat their copyright and
+// licence texts by the hundred. A family searched for later is matched
+// against these instead of opening every file again, with the same results.
+class NamePool {
+public:
+    uint32_t intern(std::string name) {
+        auto found = ids.emplace(std::move(name), uint32_t(raw.size()));
+        if (found.second)
+            raw.push_back(&found.first->first);
+        return found.first->second;
+    }
+    size_t size() const { return raw.size(); }
+    // The name lowered by the global locale; lowered again if the locale changed.
+    std::string const &loweredName(uint32_t id, std::string const &localeName) {
+        if (loweredIn != localeName) {
+            lowered.clear();
+            loweredIn = localeName;
+        }
+        while (lowered.size() <= id)
+            lowered.push_back(Vantrel::lowered(*raw[lowered.size()]));
+        return lowered[id];
+    }
+
+private:
+    std::unordered_map<std::string, uint32_t> ids;
+    std::vector<std::string const *> raw;
+    std::vector<std::string> lowered;
+    std::string loweredIn;
+};
+
+NamePool sNames;
+
 struct FaceNames {
     bool hasPostScriptName = false;
-    std::string postScriptName; // without whitespace
+    uint32_t postScriptName = 0; // without whitespace
     bool hasFamilyName = false;
-    std::string familyAndStyle;        // family, a blank and the style
-    std::vector<std::string> rawNames; // every name table entry, as raw bytes
+    uint32_t familyAndStyle = 0;    // family, a blank and the style
+    std::vector<uint32_t> rawNames; // every name table entry, as raw bytes
 };
 
-struct FileNames {
-    // The faces read, in order. Matching goes through them and then fails;
-    // a face that could not be opened ends the list.
-    std::vector<FaceNames> faces;
-};
+// The faces read, in order. Matching goes through them and then fails; a face
+// that could not be opened ends the list.
+using FileNames = std::vector<FaceNames>;
 
-std::map<std::string, FileNames> sFileNames;
+std::unordered_map<std::string, FileNames> sFileNames;
 
 FileNames readNames(std::string const &path, FT_Library library) {
-    FileNames names;
+    FileNames faces;
     FT_Face face = nullptr;
     if (FT_New_Face(library, path.c_str(), 0, &face) != 0)
-        return names;
+        return faces;
     for (FT_Long index = 0;;) {
         if (face->num_faces < 1)
             break;
         FaceNames f;
         if (char const *ps = FT_Get_Postscript_Name(face)) {
             f.hasPostScriptName = true;
-            f.postScriptName = withoutWhitespace(ps);
+            f.postScriptName = sNames.intern(withoutWhitespace(ps));
         }
         if (face->family_name) {
             f.hasFamilyName = true;
-            f.familyAndStyle = std::string(face->family_name) + " " + (face->style_name ? face->style_name : "");
+            f.familyAndStyle =
+                sNames.intern(std::string(face->family_name) + " " + (face->style_name ? face->style_name : ""));
         }
         FT_UInt count = FT_Get_Sfnt_Name_Count(face);
+        f.rawNames.reserve(count);
         for (FT_UInt i = 0; i < count; ++i) {
             FT_SfntName entry;
             if (FT_Get_Sfnt_Name(face, i, &entry) == 0)
-                f.rawNames.emplace_back(reinterpret_cast<char const *>(entry.string), entry.string_len);
+                f.rawNames.push_back(
+                    sNames.intern(std::string(reinterpret_cast<char const *>(entry.string), entry.string_len)));
         }
-        names.faces.push_back(std::move(f));
-        FT_Long faces = face->num_faces;
+        faces.push_back(std::move(f));
+        FT_Long faceCount = face->num_faces;
         FT_Done_Face(face);
         face = nullptr;
-        if (++index >= faces || FT_New_Face(library, path.c_str(), index, &face) != 0)
+        if (++index >= faceCount || FT_New_Face(library, path.c_str(), index, &face) != 0)
             break;
     }
     if (face)
         FT_Done_Face(face);
-    return names;
+    return faces;
 }
 
-bool fontFileMatches(std::string const &path, std::string const &family, FT_Library library) {
-    // The whole path counts, folders included: a family named in a folder's
-    // name matches every file below it, without opening any.
-    if (containsIgnoringCase(path, family))
-        return true;
-    auto cached = sFileNames.find(path);
-    if (cached == sFileNames.end())
-        cached = sFileNames.emplace(path, readNames(path, library)).first;
-    std::string const compactFamily = withoutWhitespace(family);
-    for (FaceNames const &face : cached->second.faces) {
-        if (face.hasPostScriptName && containsIgnoringCase(face.postScriptName, compactFamily))
+// One family's search: its needles, and whether each name of the pool holds
+// them, found at most once per name.
+class FamilySearch {
+public:
+    explicit FamilySearch(std::string const &family)
+        : lower(lowered(family)), compactLower(lowered(withoutWhitespace(family))), localeName(std::locale().name()) {}
+
+    // Matching ignores case: both sides are lowered by the global locale, byte
+    // by byte, and an empty family matches anything.
+    bool matches(std::string const &path, FT_Library library) {
+        // The whole path counts, folders included: a family named in a folder's
+        // name matches every file below it, without opening any.
+        if (lowered(path).find(lower) != std::string::npos)
             return true;
-        if (face.hasFamilyName && containsIgnoringCase(face.familyAndStyle, family))
-            return true;
-        for (std::string const &raw : face.rawNames)
-            if (containsIgnoringCase(raw, family))
+        auto cached = sFileNames.find(path);
+        if (cached == sFileNames.end())
+            cached = sFileNames.emplace(path, readNames(path, library)).first;
+        for (FaceNames const &face : cached->second) {
+            if (face.hasPostScriptName && holds(compactMemo, face.postScriptName, compactLower))
                 return true;
+            if (face.hasFamilyName && holds(memo, face.familyAndStyle, lower))
+                return true;
+            for (uint32_t raw : face.rawNames)
+                if (holds(memo, raw, lower))
+                    return true;
+        }
+        return false;
     }
-    return false;
-}
+
+private:
+    bool holds(std::vector<signed char> &known, uint32_t id, std::string const &needle) {
+        if (known.size() <= id)
+            known.resize(sNames.size(), -1);
+        if (known[id] < 0)
+            known[id] = sNames.loweredName(id, localeName).find(needle) != std::string::npos;
+        return known[id] != 0;
+    }
+
+    std::string lower, compactLower, localeName;
+    std::vector<signed char> memo, compactMemo;
+};
 
 char const *const kFallbackFamilies[] = {"Arial",           "Yu Gothic",  "Malgun Gothic",
                                          "Microsoft Yahei", "Leelawadee", "Geeza Pro"};
@@ -147,25 +197,29 @@ PangoFontMap *fontMap() {
 
 std::vector<std::string> fontSearchFolders() { return sFontSearchFolders; }
 
-std::vector<std::string> findFontFiles(std::string const &family, std::vector<std::string> const &folders) {
+namespace {
+
+std::vector<std::string> matchingFiles(std::string const &family, std::vector<std::string> const &candidates) {
     std::vector<std::string> matches;
     FT_Library library = nullptr;
     if (FT_Init_FreeType(&library) != 0)
         return matches;
-    for (std::string const &path : fontCandidates(folders))
-        if (fontFileMatches(path, family, library))
+    FamilySearch search(family);
+    for (std::string const &path : candidates)
+        if (search.matches(path, library))
             matches.push_back(path);
     FT_Done_FreeType(library);
     return matches;
 }
 
-bool loadFont(std::string const &family, std::vector<std::string> const &folders) {
+// loadFont over a candidate list already made: the fallback families share one listing.
+bool loadFontFrom(std::string const &family, std::vector<std::string> const &candidates) {
     if (sFailedFonts.count(family))
         return false;
     if (sLoadedFonts.count(family))
         return true;
     int registered = 0;
-    for (std::string const &path : findFontFiles(family, folders)) {
+    for (std::string const &path : matchingFiles(family, candidates)) {
         if (!FcConfigAppFontAddFile(nullptr, reinterpret_cast<FcChar8 const *>(path.c_str())))
             continue;
         ++registered;
@@ -184,11 +238,32 @@ bool loadFont(std::string const &family, std::vector<std::string> const &folders
     return true;
 }
 
+} // namespace
+
+std::vector<std::string> findFontFiles(std::string const &family, std::vector<std::string> const &folders) {
+    return matchingFiles(family, fontCandidates(folders));
+}
+
+bool loadFont(std::string const &family, std::vector<std::string> const &folders) {
+    if (sFailedFonts.count(family) || sLoadedFonts.count(family))
+        return sLoadedFonts.count(family) != 0; // decided before: no listing needed
+    return loadFontFrom(family, fontCandidates(folders));
+}
+
 void loadFallbackFonts(std::vector<std::string> const &folders) {
     if (!sLoadFallbackFonts)
         return;
-    for (char const *family : kFallbackFamilies)
-        loadFont(family, folders);
+    std::vector<std::string> candidates;
+    bool listed = false;
+    for (char const *family : kFallbackFamilies) {
+        if (sFailedFonts.count(family) || sLoadedFonts.count(family))
+            continue;
+        if (!listed) {
+            candidates = fontCandidates(folders);
+            listed = true;
+        }
+        loadFontFrom(family, candidates);
+    }
 }
 
 bool loadFontsOfAttributes(TextAttributeList const &attributes) {
