@@ -17,6 +17,7 @@
 
 #include <vantrel/text/PangoFonts.h>
 #include <vantrel/text/TextAttributeList.h>
+#include <vantrel/text/TextCalloutProperties.h>
 #include <vantrel/text/UTF8StringUtil.h>
 
 #include <vantrel/callouts/BaseCallout.h>
@@ -25,3 +26,4 @@
 #include <vantrel/callouts/Lines.h>
 #include <vantrel/callouts/Presets.h>
 #include <vantrel/callouts/Shapes.h>
+#include <vantrel/callouts/TextCallout.h>

@@ -1,24 +1,243 @@
-// The cairo context's text operations. Until the text engine stands they
-// leave the surface untouched.
+// The cairo context's text operations: the text, the selection or caret, the
+// misspelling marks, and four plain layout operations.
+#include "../drawing/BoundsFinder.h"
 #include "../drawing/CrossPlatformDrawingContextImpl.h"
+#include "TextLayout.h"
+
+#include <vantrel/callouts/BaseCallout.h>
+#include <vantrel/text/UTF8StringUtil.h>
+
+#include <algorithm>
+#include <cmath>
 
 namespace Vantrel {
 
-void CrossPlatformDrawingContext::DrawTextW(TextCalloutProperties const &, TextAttributeList const &,
-                                            DrawOutputMetaData *) {}
+namespace {
 
-void CrossPlatformDrawingContext::DrawTextSelection(TextCalloutProperties const &, TextAttributeList const &,
-                                                    Range const &, Color const &, Color const &) {}
+// Clip to the box, flip about its centre, move to its rounded corner, build
+// the layout, and move by the alignment offset, which is returned. A
+// transparent source stays current: text without a colour attribute paints
+// nothing. The caller holds the layout lock and restores the context.
+PangoLayout *prepareText(cairo_t *cr, TextCalloutProperties const &properties, TextAttributeList const &attributes,
+                         Point *offset) {
+    Rect const &r = properties.textRect;
+    double const x = roundedCoordinate(r.Left()), y = roundedCoordinate(r.Top());
+    cairo_save(cr);
+    cairo_set_source_rgba(cr, 0, 0, 0, 0);
+    cairo_paint_with_alpha(cr, 0.0);
+    cairo_rectangle(cr, x, y, wholePixelWidth(r), wholePixelHeight(r));
+    cairo_clip(cr);
+    Point c = r.Center();
+    cairo_translate(cr, c.x, c.y);
+    if (properties.flipVertically)
+        cairo_scale(cr, 1, -1);
+    if (properties.flipHorizontally)
+        cairo_scale(cr, -1, 1);
+    if (properties.flipBoth)
+        cairo_scale(cr, -1, -1);
+    cairo_translate(cr, -c.x, -c.y);
+    cairo_translate(cr, x, y);
+    PangoLayout *layout = buildTextLayout(properties, attributes, properties.resizesText(), 0, true);
+    if (layout) {
+        *offset =
+            Point(horizontalTextOffset(properties.horizontalAlignment, layout, wholePixelWidth(r), properties.wordWrap),
+                  verticalTextOffset(properties.verticalAlignment, layout, wholePixelHeight(r)));
+        cairo_translate(cr, offset->x, offset->y);
+    }
+    return layout;
+}
 
-void CrossPlatformDrawingContext::DrawMisspelledRanges(TextCalloutProperties const &, TextAttributeList const &,
-                                                       std::vector<Range> const &, Color const &) {}
+void setSource(cairo_t *cr, Color const &c) { CairoUtil::setSourceColor(cr, c); }
 
-void CrossPlatformDrawingContext::DrawPangoLayout(PangoLayout *) {}
+// A range of characters cut to the text: offsets past its end, or before its
+// start, would otherwise ask pango about positions that do not exist.
+Range charactersWithin(std::string const &text, Range r) {
+    int length = UTF8StringUtil::length(text);
+    return Range(std::max(0, std::min(r.start(), length)), std::max(0, std::min(r.end(), length)));
+}
 
-void CrossPlatformDrawingContext::DrawPangoLayoutOutline(PangoLayout *) {}
+void fillMetadata(PangoLayout *layout, Point offset, DrawOutputMetaData *metadata) {
+    metadata->clusterRects.clear();
+    metadata->clusterBaselines.clear();
+    pango_layout_get_pixel_size(layout, &metadata->layoutWidth, &metadata->layoutHeight);
+    PangoLayoutIter *it = pango_layout_get_iter(layout);
+    if (!it)
+        return;
+    do {
+        PangoRectangle ink;
+        pango_layout_iter_get_cluster_extents(it, &ink, nullptr);
+        pango_extents_to_pixels(nullptr, &ink);
+        metadata->clusterRects.push_back(
+            Rect(ink.x + offset.x, ink.y + offset.y, ink.x + ink.width + offset.x, ink.y + ink.height + offset.y));
+        metadata->clusterBaselines.push_back(
+            int(std::lround(pango_units_to_double(pango_layout_iter_get_baseline(it)) + offset.y)));
+    } while (pango_layout_iter_next_cluster(it));
+    pango_layout_iter_free(it);
+}
 
-void CrossPlatformDrawingContext::DrawPangoLayoutLine(PangoLayoutLine *) {}
+} // namespace
 
-void CrossPlatformDrawingContext::DrawPangoLayoutLineOutline(PangoLayoutLine *) {}
+void CrossPlatformDrawingContext::DrawTextW(TextCalloutProperties const &properties,
+                                            TextAttributeList const &attributes, DrawOutputMetaData *metadata) {
+    std::lock_guard<std::mutex> drawing(textDrawingLock());
+    std::lock_guard<std::mutex> layoutGuard(layoutLock());
+    cairo_t *cr = impl->cr;
+    Point offset;
+    PangoLayout *layout = prepareText(cr, properties, attributes, &offset);
+    if (layout) {
+        pango_cairo_show_layout(cr, layout);
+        if (metadata)
+            fillMetadata(layout, offset, metadata);
+        g_object_unref(layout);
+    }
+    cairo_restore(cr);
+}
+
+void CrossPlatformDrawingContext::DrawTextSelection(TextCalloutProperties const &properties,
+                                                    TextAttributeList const &attributes, Range const &selection,
+                                                    Color const &selectionColor, Color const &caretColor) {
+    std::lock_guard<std::mutex> layoutGuard(layoutLock());
+    cairo_t *cr = impl->cr;
+    Point offset;
+    PangoLayout *layout = prepareText(cr, properties, attributes, &offset);
+    if (!layout) {
+        cairo_restore(cr);
+        return;
+    }
+    std::string const &text = properties.text;
+    Range chosen = charactersWithin(text, selection.normalized());
+    if (chosen.length() < 1) {
+        PangoRectangle strong;
+        pango_layout_get_cursor_pos(layout, UTF8StringUtil::byteOffsetFromCharacterOffset(text, chosen.start()),
+                                    &strong, nullptr);
+        setSource(cr, caretColor);
+        cairo_rectangle(cr, pango_units_to_double(strong.x), pango_units_to_double(strong.y), 2.0,
+                        pango_units_to_double(strong.height));
+        cairo_fill(cr);
+    } else {
+        int const spacing = pango_layout_get_spacing(layout), half = spacing / 2;
+        auto band = [&](PangoRectangle const &p) {
+            cairo_rectangle(cr, pango_units_to_double(p.x), pango_units_to_double(p.y - half),
+                            pango_units_to_double(p.width), pango_units_to_double(p.height + spacing));
+        };
+        std::vector<PangoRectangle> runs;
+        for (int i = chosen.start(); i < chosen.end(); ++i) {
+            PangoRectangle pos;
+            pango_layout_index_to_pos(layout, UTF8StringUtil::byteOffsetFromCharacterOffset(text, i), &pos);
+            setSource(cr, selectionColor);
+            band(pos);
+            cairo_fill(cr);
+            bool merged = false;
+            for (PangoRectangle &r : runs) {
+                if (r.y != pos.y || r.height != pos.height)
+                    continue;
+                if (r.x + r.width == pos.x) {
+                    r.width += pos.width;
+                } else if (pos.x + pos.width == r.x) {
+                    r.x = pos.x;
+                    r.width += pos.width;
+                } else if (!(pos.x >= r.x && pos.x + pos.width <= r.x + r.width)) {
+                    continue;
+                }
+                merged = true;
+                break;
+            }
+            if (!merged)
+                runs.push_back(pos);
+        }
+        setSource(cr, Color(0, 0, 0, selectionColor.alpha));
+        for (PangoRectangle const &r : runs) {
+            band(r);
+            cairo_stroke(cr);
+        }
+    }
+    g_object_unref(layout);
+    cairo_restore(cr);
+}
+
+void CrossPlatformDrawingContext::DrawMisspelledRanges(TextCalloutProperties const &properties,
+                                                       TextAttributeList const &attributes,
+                                                       std::vector<Range> const &ranges, Color const &color) {
+    std::lock_guard<std::mutex> layoutGuard(layoutLock());
+    cairo_t *cr = impl->cr;
+    Point offset;
+    PangoLayout *layout = prepareText(cr, properties, attributes, &offset);
+    if (!layout) {
+        cairo_restore(cr);
+        return;
+    }
+    std::string const &text = properties.text;
+    double startX = 0, endX = 0, lineBaseline = 0, height = 0, drop = 0;
+    auto strokeSegment = [&]() {
+        double lineWidth = std::fmax(2.0, height * 0.0625);
+        double const dashes[] = {1.0, lineWidth * 2.0};
+        cairo_set_dash(cr, dashes, 2, 0.0);
+        cairo_set_line_width(cr, lineWidth);
+        cairo_set_line_cap(cr, CAIRO_LINE_CAP_SQUARE);
+        double y = drop * 0.5 + lineBaseline;
+        cairo_move_to(cr, startX, y);
+        cairo_line_to(cr, endX, y);
+        cairo_stroke(cr);
+    };
+    for (Range const &given : ranges) {
+        // A range without a character has no geometry to take: it draws nothing.
+        Range range = charactersWithin(text, given);
+        if (range.length() < 1)
+            continue;
+        startX = endX = lineBaseline = 0;
+        for (int i = range.start(); i < range.end(); ++i) {
+            int index = UTF8StringUtil::byteOffsetFromCharacterOffset(text, i);
+            PangoRectangle pos;
+            pango_layout_index_to_pos(layout, index, &pos);
+            int line = 0, xPos = 0;
+            pango_layout_index_to_line_x(layout, index, 0, &line, &xPos);
+            PangoLayoutIter *it = pango_layout_get_iter(layout);
+            for (int l = 0; l < line; ++l)
+                pango_layout_iter_next_line(it);
+            double baseline = pango_units_to_double(pango_layout_iter_get_baseline(it));
+            pango_layout_iter_free(it);
+            setSource(cr, color);
+            double x = pango_units_to_double(pos.x), width = pango_units_to_double(pos.width);
+            height = pango_units_to_double(pos.height);
+            drop = height / 10.0;
+            if (i == range.start()) {
+                startX = x;
+                lineBaseline = baseline;
+            } else if (baseline != lineBaseline) {
+                strokeSegment(); // the range goes on on a new line
+                startX = x;
+                lineBaseline = baseline;
+            }
+            endX = x + width;
+        }
+        strokeSegment();
+    }
+    g_object_unref(layout);
+    cairo_restore(cr);
+}
+
+// The plain layout operations draw at the current point with the current
+// source. A layout of the library's font map is drawn by code that holds the
+// layout lock already, so they take no lock of their own.
+void CrossPlatformDrawingContext::DrawPangoLayout(PangoLayout *layout) { pango_cairo_show_layout(impl->cr, layout); }
+
+void CrossPlatformDrawingContext::DrawPangoLayoutOutline(PangoLayout *layout) {
+    pango_cairo_layout_path(impl->cr, layout);
+    cairo_stroke(impl->cr);
+}
+
+void CrossPlatformDrawingContext::DrawPangoLayoutLine(PangoLayoutLine *line) {
+    pango_cairo_show_layout_line(impl->cr, line);
+}
+
+void CrossPlatformDrawingContext::DrawPangoLayoutLineOutline(PangoLayoutLine *line) {
+    pango_cairo_layout_line_path(impl->cr, line);
+    cairo_stroke(impl->cr);
+}
+
+// For bounds, a text is its box: glyphs are not laid out, and overflow does not count.
+void BoundsFinder::DrawTextW(TextCalloutProperties const &properties, TextAttributeList const &, DrawOutputMetaData *) {
+    Fill(Color(1, 1, 1), Polygon(properties.textRect));
+}
 
 } // namespace Vantrel

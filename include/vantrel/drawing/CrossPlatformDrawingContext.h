@@ -107,6 +107,18 @@ public:
     // searched for again.
     static void addFontSearchFolder(std::string const &folder);
 
+    // Text queries. Pixel width and height of the text at full size.
+    static Point calculateDrawingDimensions(TextCalloutProperties const &properties,
+                                            TextAttributeList const &attributes);
+    // The scale in (0, 1] at which the text fits its box: 1 when it fits, or
+    // when resizeBehavior is not "resizeText"; found by eight rounds of
+    // bisection otherwise.
+    static double calculateDrawingFontScale(TextCalloutProperties const &properties,
+                                            TextAttributeList const &attributes);
+    // A copy with every listed font size and letter spacing multiplied by
+    // scale and floored, in pango units.
+    static TextAttributeList textAttributeListByApplyingFontScale(TextAttributeList const &attributes, double scale);
+
     struct Impl;
 
 protected:

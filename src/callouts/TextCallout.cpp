@@ -1,0 +1,71 @@
+#include <vantrel/callouts/TextCallout.h>
+
+namespace Vantrel {
+
+TextCallout::TextCallout(Rect const &bodyRect, TextCalloutProperties const &properties,
+                         TextAttributeList const &attributes)
+    : mBodyRect(bodyRect), mTextCalloutProperties(properties), mTextAttributeList(attributes) {}
+
+TextCallout::TextCallout(Rect const &bodyRect) : mBodyRect(bodyRect) {}
+
+void TextCallout::drawIntoContext(DrawingContext *context, DrawOptions options, Rect, int,
+                                  DrawOutputMetaData *metadata) const {
+    if (options & DrawOptionText)
+        context->DrawTextW(mTextCalloutProperties, mTextAttributeList, metadata);
+}
+
+TextCallout *TextCallout::clone() const { return new TextCallout(*this); }
+
+void TextCallout::drawSelectionIntoContext(DrawingContext *context, Range const &selection, Color const &selectionColor,
+                                           Color const &caretColor) const {
+    context->DrawTextSelection(mTextCalloutProperties, mTextAttributeList, selection, selectionColor, caretColor);
+}
+
+void TextCallout::drawMisspelledRangesIntoContext(DrawingContext *context, std::vector<Range> const &ranges,
+                                                  Color const &color) const {
+    context->DrawMisspelledRanges(mTextCalloutProperties, mTextAttributeList, ranges, color);
+}
+
+Point TextCallout::offsetOfTextBoxCenterFromTrackingRectCenter() const {
+    return trackingRect().Center() - mTextCalloutProperties.textRect.Center();
+}
+
+void TextCallout::drawThemedText(DrawingContext *context, DrawOptions options) const {
+    if ((options & DrawOptionText) && !mTextCalloutProperties.text.empty())
+        context->DrawTextW(mTextCalloutProperties, mTextAttributeList, nullptr);
+}
+
+namespace {
+template <class Outline>
+void paint(DrawingContext *context, CalloutProperties const &p, Outline const &outline, Rect const &r) {
+    if (p.isGradient())
+        context->Fill(makeGradientPattern(p.fillColor, r, p.gradientDirection), outline);
+    else
+        context->Fill(p.fillColor, outline);
+    if (p.strokeWidth > 0)
+        context->Stroke(p.strokeColor, p.strokeWidth, p.strokeStyle, outline);
+}
+} // namespace
+
+void TextCallout::paintOutline(DrawingContext *context, CalloutProperties const &properties, Polygon const &outline,
+                               Rect const &r) {
+    paint(context, properties, outline, r);
+}
+
+void TextCallout::paintOutline(DrawingContext *context, CalloutProperties const &properties, Polygons const &outline,
+                               Rect const &r) {
+    paint(context, properties, outline, r);
+}
+
+void TextCallout::paintPath(DrawingContext *context, CalloutProperties const &properties, Path const &path,
+                            Rect const &r) {
+    if (properties.isGradient())
+        context->FillPath(makeGradientPattern(properties.fillColor, r, properties.gradientDirection), path);
+    else
+        context->FillPath(properties.fillColor, path);
+    if (properties.strokeWidth > 0)
+        context->StrokePath(properties.strokeColor, properties.strokeWidth, properties.strokeStyle, path, LineCapSquare,
+                            LineJoinMiter, true);
+}
+
+} // namespace Vantrel

@@ -1,0 +1,288 @@
+#include "TextLayout.h"
+
+#include "Fonts.h"
+
+#include <vantrel/drawing/CrossPlatformDrawingContext.h>
+#include <vantrel/text/UTF8StringUtil.h>
+
+#include "values/Rounding.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace Vantrel {
+
+std::mutex &layoutLock() {
+    static std::mutex lock;
+    return lock;
+}
+
+std::mutex &textDrawingLock() {
+    static std::mutex lock;
+    return lock;
+}
+
+int wholePixelWidth(Rect const &r) { return r.IntWidth(); }
+int wholePixelHeight(Rect const &r) { return r.IntHeight(); }
+double roundedCoordinate(double v) { return std::round(v); }
+
+TextCalloutProperties::TextCalloutProperties(std::string const &text_, Rect const &textRect_, bool allCaps_,
+                                             bool wordWrap_, bool flipVertically_, bool flipHorizontally_,
+                                             bool flipBoth_, TextHorizontalAlignment horizontalAlignment_,
+                                             TextVerticalAlignment verticalAlignment_, double verticalSpace_,
+                                             std::string const &resizeBehavior_, TextWrapMode wrapMode_,
+                                             bool ligatures_)
+    : text(text_), textRect(textRect_), allCaps(allCaps_), wordWrap(wordWrap_), flipVertically(flipVertically_),
+      flipHorizontally(flipHorizontally_), flipBoth(flipBoth_),
+      isRightToLeft(UTF8StringUtil::isRightToLeftLanguage(text_)), horizontalAlignment(horizontalAlignment_),
+      verticalAlignment(verticalAlignment_), verticalSpace(verticalSpace_), resizeBehavior(resizeBehavior_),
+      wrapMode(wrapMode_), ligatures(ligatures_) {}
+
+namespace {
+
+int const kUnlimited = 0x7fffffff;
+
+PangoAlignment pangoAlignment(TextHorizontalAlignment a) {
+    switch (int(a)) {
+    case Center:
+        return PANGO_ALIGN_CENTER;
+    case Right:
+        return PANGO_ALIGN_RIGHT;
+    default:
+        return PANGO_ALIGN_LEFT;
+    }
+}
+
+PangoWrapMode pangoWrap(TextWrapMode m) {
+    switch (int(m)) {
+    case WrapChar:
+        return PANGO_WRAP_CHAR;
+    case WrapWordChar:
+        return PANGO_WRAP_WORD_CHAR;
+    default:
+        return PANGO_WRAP_WORD;
+    }
+}
+
+// The largest stored font size in the list, in points; 0 without one.
+double maximumFontSize(TextAttributeList const &attributes) {
+    double largest = 0.0;
+    for (auto const &run : attributes.attributeRuns())
+        if (TextAttributeList::typeOfPangoAttribute(run->attribute()) == TextAttributeList::FontSize)
+            largest = std::fmax(largest, reinterpret_cast<PangoAttrSize *>(run->attribute())->size * 0.0009765625);
+    return largest;
+}
+
+// Pango units of a whole-pixel size. Sizes are held within a million pixels,
+// well inside what pango's int units can take.
+int units(int pixels) { return pango_units_from_double(double(std::max(-1000000, std::min(pixels, 1000000)))); }
+
+bool fits(PangoLayout *layout, Rect const &box) {
+    int width = 0, height = 0;
+    pango_layout_get_pixel_size(layout, &width, &height);
+    return double(wholePixelWidth(box)) >= width && double(wholePixelHeight(box)) >= height;
+}
+
+// Floors every listed font size and letter spacing scaled by scale, in place.
+void scaleSizes(TextAttributeList &list, double scale) {
+    for (PangoAttribute *a : list.pangoAttributes()) {
+        TextAttributeList::AttributeType type = TextAttributeList::typeOfPangoAttribute(a);
+        if (type == TextAttributeList::FontSize)
+            reinterpret_cast<PangoAttrSize *>(a)->size =
+                saturatingInt(std::floor(reinterpret_cast<PangoAttrSize *>(a)->size * scale));
+        else if (type == TextAttributeList::LetterSpacing)
+            reinterpret_cast<PangoAttrInt *>(a)->value =
+                saturatingInt(std::floor(reinterpret_cast<PangoAttrInt *>(a)->value * scale));
+    }
+}
+
+} // namespace
+
+TextAttributeList prepareAttributesForLayout(TextAttributeList const &attributes,
+                                             TextCalloutProperties const &properties) {
+    TextAttributeList prepared(attributes);
+    prepared.applyCharacterSpacing();
+    prepared.addPangoAttribute(pango_attr_font_features_new(properties.ligatures ? "liga 1" : "liga 0"));
+    guint const size = guint(properties.text.size());
+    for (PangoAttribute *a : prepared.pangoAttributes())
+        if (a->end_index == size)
+            a->end_index = size + 1;
+    return prepared;
+}
+
+PangoLayout *buildTextLayout(TextCalloutProperties const &properties, TextAttributeList const &attributes,
+                             bool fitToBox, double margin, bool unlimitedHeight) {
+    Rect const box = properties.textRect.Expanded(-margin);
+    loadFallbackFonts(fontSearchFolders());
+    loadFontsOfAttributes(attributes);
+
+    PangoDirection direction =
+        UTF8StringUtil::isRightToLeftLanguage(properties.text) ? PANGO_DIRECTION_RTL : PANGO_DIRECTION_LTR;
+    PangoContext *context = pango_font_map_create_context(fontMap());
+    pango_context_set_base_dir(context, direction);
+    PangoLayout *layout = pango_layout_new(context);
+
+    pango_layout_set_width(layout, units(wholePixelWidth(box)));
+    pango_layout_set_height(layout, unlimitedHeight ? kUnlimited : units(wholePixelHeight(box)));
+    pango_layout_set_alignment(layout, pangoAlignment(properties.horizontalAlignment));
+    pango_layout_set_spacing(layout, saturatingInt(maximumFontSize(attributes) * properties.verticalSpace * 1024.0));
+
+    TextAttributeList prepared = prepareAttributesForLayout(attributes, properties);
+    pango_layout_set_attributes(layout, prepared.pangoAttrList());
+
+    // Capitals on ASCII bytes only, so that every byte offset stays valid.
+    std::string text = properties.text;
+    if (properties.allCaps)
+        for (char &c : text)
+            if (c >= 'a' && c <= 'z')
+                c = char(c - 'a' + 'A');
+    pango_layout_set_text(layout, text.data(), int(std::min(text.size(), size_t(kUnlimited))));
+
+    if (properties.wordWrap)
+        pango_layout_set_wrap(layout, pangoWrap(properties.wrapMode));
+    else
+        pango_layout_set_width(layout, -1);
+
+    if (fitToBox && !fits(layout, properties.textRect)) {
+        double scale = fontScaleForLayout(layout, properties, prepared);
+        TextAttributeList scaled = CrossPlatformDrawingContext::textAttributeListByApplyingFontScale(prepared, scale);
+        pango_layout_set_attributes(layout, scaled.pangoAttrList());
+    }
+    g_object_unref(context);
+    return layout;
+}
+
+double fontScaleForLayout(PangoLayout *layout, TextCalloutProperties const &properties,
+                          TextAttributeList const &attributes) {
+    if (!properties.resizesText())
+        return 1.0;
+    PangoLayout *trialLayout = pango_layout_copy(layout);
+    pango_layout_set_height(trialLayout, kUnlimited);
+    TextAttributeList base = prepareAttributesForLayout(attributes, properties);
+    pango_layout_set_attributes(trialLayout, base.pangoAttrList());
+    double scale = 1.0, step = 0.5, best = 1.0;
+    bool found = false;
+    for (int round = 0; round < 8; ++round) {
+        TextAttributeList trial(base);
+        scaleSizes(trial, scale);
+        pango_layout_set_attributes(trialLayout, trial.pangoAttrList());
+        if (fits(trialLayout, properties.textRect)) {
+            best = scale;
+            found = true;
+            scale = std::fmin(step + scale, 1.0);
+        } else {
+            scale = scale - step;
+        }
+        step = step * 0.5;
+    }
+    g_object_unref(trialLayout);
+    return found ? best : scale;
+}
+
+double horizontalTextOffset(TextHorizontalAlignment alignment, PangoLayout *layout, double boxWidth, bool wrapped) {
+    if (wrapped)
+        return 0.0;
+    PangoRectangle logical;
+    pango_layout_get_extents(layout, nullptr, &logical);
+    double w = double((logical.width + 512) >> 10);
+    switch (int(alignment)) {
+    case Center:
+        return (boxWidth - w) * 0.5;
+    case Right:
+        return boxWidth - w;
+    default:
+        return 0.0;
+    }
+}
+
+double verticalTextOffset(TextVerticalAlignment alignment, PangoLayout *layout, double boxHeight) {
+    PangoRectangle logical;
+    pango_layout_get_extents(layout, nullptr, &logical);
+    double h = double((logical.height + 512) >> 10);
+    switch (int(alignment)) {
+    case Top:
+        return 0.0;
+    case Bottom:
+        return boxHeight - h;
+    default:
+        return (boxHeight - h) * 0.5;
+    }
+}
+
+void textLayoutMatrix(TextCalloutProperties const &properties, cairo_matrix_t *matrix, PangoLayout *layout) {
+    Rect const &r = properties.textRect;
+    Point c = r.Center();
+    cairo_matrix_init_identity(matrix);
+    cairo_matrix_translate(matrix, c.x, c.y);
+    if (properties.flipVertically)
+        cairo_matrix_scale(matrix, 1, -1);
+    if (properties.flipHorizontally)
+        cairo_matrix_scale(matrix, -1, 1);
+    if (properties.flipBoth)
+        cairo_matrix_scale(matrix, -1, -1);
+    cairo_matrix_translate(matrix, -c.x, -c.y);
+    cairo_matrix_translate(matrix, double(std::lround(r.Left())), double(std::lround(r.Top())));
+    cairo_matrix_translate(
+        matrix,
+        horizontalTextOffset(properties.horizontalAlignment, layout, double(wholePixelWidth(r)), properties.wordWrap),
+        verticalTextOffset(properties.verticalAlignment, layout, double(wholePixelHeight(r))));
+}
+
+// The queries: each builds a layout under the layout lock and releases it there.
+
+Point CrossPlatformDrawingContext::calculateDrawingDimensions(TextCalloutProperties const &properties,
+                                                              TextAttributeList const &attributes) {
+    std::lock_guard<std::mutex> guard(layoutLock());
+    PangoLayout *layout = buildTextLayout(properties, attributes, false, 0, true);
+    int width = 0, height = 0;
+    pango_layout_get_pixel_size(layout, &width, &height);
+    g_object_unref(layout);
+    return Point(width, height);
+}
+
+double CrossPlatformDrawingContext::calculateDrawingFontScale(TextCalloutProperties const &properties,
+                                                              TextAttributeList const &attributes) {
+    std::lock_guard<std::mutex> guard(layoutLock());
+    PangoLayout *layout = buildTextLayout(properties, attributes, properties.resizesText(), 0, true);
+    double scale = fontScaleForLayout(layout, properties, attributes);
+    g_object_unref(layout);
+    return scale;
+}
+
+TextAttributeList CrossPlatformDrawingContext::textAttributeListByApplyingFontScale(TextAttributeList const &attributes,
+                                                                                    double scale) {
+    TextAttributeList copy(attributes);
+    scaleSizes(copy, scale);
+    return copy;
+}
+
+int TextCalloutUtil::calculateNumberOfPangoLayoutLines(TextCalloutProperties const &properties,
+                                                       TextAttributeList const &attributes) {
+    std::lock_guard<std::mutex> guard(layoutLock());
+    PangoLayout *layout = buildTextLayout(properties, attributes, true, 0, true);
+    int lines = pango_layout_get_line_count(layout);
+    g_object_unref(layout);
+    return lines;
+}
+
+std::vector<Range> TextCalloutUtil::lineRanges(TextCalloutProperties const &properties,
+                                               TextAttributeList const &attributes) {
+    std::lock_guard<std::mutex> guard(layoutLock());
+    PangoLayout *layout = buildTextLayout(properties, attributes, true, 0, true);
+    std::vector<Range> ranges;
+    PangoLayoutIter *it = pango_layout_get_iter(layout);
+    do {
+        PangoLayoutLine *line = pango_layout_iter_get_line_readonly(it);
+        ranges.push_back(Range(line->start_index, line->start_index + line->length));
+    } while (pango_layout_iter_next_line(it));
+    pango_layout_iter_free(it);
+    g_object_unref(layout);
+    return ranges;
+}
+
+Point TextCalloutUtil::calculateDrawingDimensions(TextCalloutProperties const &properties,
+                                                  TextAttributeList const &attributes) {
+    return CrossPlatformDrawingContext::calculateDrawingDimensions(properties, attributes);
+}
+
+} // namespace Vantrel
