@@ -6,8 +6,10 @@
 #include <cairo.h>
 #include <cmath>
 #include <cstdlib>
+#include <fstream>
 #include <functional>
 #include <iostream>
+#include <iterator>
 #include <map>
 #include <memory>
 #include <sstream>
@@ -28,6 +30,7 @@ Kinds:
                                                (--shaft, --start-cap, --end-cap), or with
                                                --fixed the theme's fixed line
   arrow                                        the theme's arrow
+  text                                         a plain text callout in --box
 
 Options:
   -o, --output FILE.png     where to write the picture (required)
@@ -50,6 +53,15 @@ Options:
   --end-cap CAP                   or dot (default none and arrow); a theme without the cap
                                   draws none
   --fixed                   line: the theme's fixed line instead
+  --text TEXT               text: the text, UTF-8 (default a sample)
+  --text-file FILE          text: the text read from a file
+  --font FAMILY             text: font family (default DejaVu Sans)
+  --font-size N             text: font size in points (default 24)
+  --align A                 text: left, center or right (default center)
+  --valign A                text: top, middle or bottom (default middle)
+  --resize WORD             text: resizeText shrinks the text to fit the box; any other word does not
+  --caret N                 text: draw the caret before character N
+  --selection S,E           text: draw the selection of characters S to E
 )";
 
 namespace {
@@ -119,6 +131,14 @@ struct DrawOptions {
     Presets::LineShaftType shaftType = Presets::LineShaftSolid;
     Presets::LineEndCapType startCap = Presets::LineEndCapNone, endCap = Presets::LineEndCapArrow;
     bool fixed = false;
+    std::string text = "Vantrel lays text out, fits it to its box and paints it.";
+    std::string font = "DejaVu Sans";
+    double fontSize = 24;
+    TextHorizontalAlignment align = Center;
+    TextVerticalAlignment valign = Middle;
+    std::string resize = "resizeText";
+    bool marks = false;
+    Range selection;
 };
 
 Presets::LineEndCapType capType(std::string const &option, std::string const &text) {
@@ -189,6 +209,33 @@ DrawOptions parse(std::vector<std::string> const &args) {
             o.shaftType = t == "solid"    ? Presets::LineShaftSolid
                           : t == "dotted" ? Presets::LineShaftDotted
                                           : Presets::LineShaftDashed;
+        } else if (a == "--text")
+            o.text = v;
+        else if (a == "--text-file") {
+            std::ifstream in(v, std::ios::binary);
+            if (!in)
+                throw UsageError("cannot read the file '" + v + "' for --text-file");
+            o.text.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+        } else if (a == "--font")
+            o.font = v;
+        else if (a == "--font-size")
+            o.fontSize = numbers(a, v, 1)[0];
+        else if (a == "--align") {
+            std::string t = oneOf(a, v, {"left", "center", "right"});
+            o.align = t == "left" ? Left : t == "center" ? Center : Right;
+        } else if (a == "--valign") {
+            std::string t = oneOf(a, v, {"top", "middle", "bottom"});
+            o.valign = t == "top" ? Top : t == "middle" ? Middle : Bottom;
+        } else if (a == "--resize")
+            o.resize = v;
+        else if (a == "--caret") {
+            int at = int(numbers(a, v, 1)[0]);
+            o.selection = Range(at, at);
+            o.marks = true;
+        } else if (a == "--selection") {
+            std::vector<double> r = numbers(a, v, 2);
+            o.selection = Range(int(r[0]), int(r[1]));
+            o.marks = true;
         } else if (a == "--start-cap")
             o.startCap = capType(a, v);
         else if (a == "--end-cap")
@@ -197,8 +244,8 @@ DrawOptions parse(std::vector<std::string> const &args) {
             throw UsageError("unknown option '" + a + "' for draw");
     }
     if (positional.empty())
-        throw UsageError("draw needs a kind: shape, custompath, line or arrow");
-    o.kind = oneOf("the kind", positional[0], {"shape", "custompath", "line", "arrow"});
+        throw UsageError("draw needs a kind: shape, custompath, line, arrow or text");
+    o.kind = oneOf("the kind", positional[0], {"shape", "custompath", "line", "arrow", "text"});
     size_t expected = o.kind == "shape" ? 2 : 1;
     if (o.kind == "shape") {
         if (positional.size() < 2)
@@ -222,6 +269,20 @@ std::unique_ptr<BaseCallout> make(DrawOptions const &o) {
     if (o.kind == "line")
         return std::unique_ptr<BaseCallout>(
             Presets::createLine(o.theme, o.color, o.width, o.from, o.to, o.shaftType, o.startCap, o.endCap));
+    if (o.kind == "text") {
+        TextCalloutProperties p;
+        p.text = o.text;
+        p.textRect = o.box;
+        p.horizontalAlignment = o.align;
+        p.verticalAlignment = o.valign;
+        p.resizeBehavior = o.resize;
+        TextAttributeList a;
+        Range all(0, int(o.text.size()));
+        a.addFontNameAttribute(all, o.font);
+        a.addFontSizeAttribute(all, o.fontSize);
+        a.addFGColorAttribute(all, o.color);
+        return std::unique_ptr<BaseCallout>(new TextCallout(o.box, p, a));
+    }
     if (o.kind == "arrow")
         return std::unique_ptr<BaseCallout>(
             Presets::createArrow(o.theme, o.color, o.width, "solid", o.from, "", o.to, ""));
@@ -260,6 +321,9 @@ int runDraw(std::vector<std::string> const &args) {
         picture.builtInBitmap()->clear();
         picture.Translate(Point(-pixels.left, -pixels.top));
         callout->drawIntoContext(&picture, BaseCallout::DrawOptionAll, Rect(), -1, nullptr);
+        if (auto *text = dynamic_cast<TextCallout *>(callout.get()); text && o.marks)
+            text->drawSelectionIntoContext(&picture, o.selection, Color(0.2f, 0.5f, 1.0f, 0.35f),
+                                           Color(0.9f, 0.1f, 0.1f));
         cairo_surface_t *surface = cairo_get_target(picture.Get());
         cairo_surface_flush(surface);
         if (cairo_surface_write_to_png(surface, o.output.c_str()) != CAIRO_STATUS_SUCCESS) {
