@@ -2,6 +2,7 @@
 
 #include "drawing/BoundsFinder.h"
 #include "drawing/PolygonsDrawingContext.h"
+#include "Painting.h"
 
 #include <algorithm>
 #include <cmath>

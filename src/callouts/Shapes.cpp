@@ -1,5 +1,7 @@
 #include <vantrel/callouts/Shapes.h>
 
+#include "Painting.h"
+
 #include <cmath>
 
 namespace Vantrel {
@@ -13,10 +15,7 @@ Rect ShapeCallout::trackingRect() const { return rect.Expanded(properties.stroke
 void ShapeCallout::fillAndStroke(DrawingContext *context, Polygon polygon, double cornerRadius) const {
     if (cornerRadius > 0)
         polygon = polygon.RoundedCorners(cornerRadius);
-    fillPolygonWithStyle(context, polygon, properties.fillColor, properties.fillStyle, rect,
-                         properties.gradientDirection);
-    if (properties.strokeWidth > 0)
-        context->Stroke(properties.strokeColor, properties.strokeWidth, properties.strokeStyle, polygon);
+    paintOutline(context, properties, polygon, rect);
 }
 
 void OvalShape::drawIntoContext(DrawingContext *context, DrawOptions, Rect, int, DrawOutputMetaData *) const {

@@ -1,5 +1,7 @@
 #include <vantrel/callouts/TextCallout.h>
 
+#include "Painting.h"
+
 namespace Vantrel {
 
 TextCallout::TextCallout(Rect const &bodyRect, TextCalloutProperties const &properties,
@@ -35,26 +37,14 @@ void TextCallout::drawThemedText(DrawingContext *context, DrawOptions options) c
         context->DrawTextW(mTextCalloutProperties, mTextAttributeList, nullptr);
 }
 
-namespace {
-template <class Outline>
-void paint(DrawingContext *context, CalloutProperties const &p, Outline const &outline, Rect const &r) {
-    if (p.isGradient())
-        context->Fill(makeGradientPattern(p.fillColor, r, p.gradientDirection), outline);
-    else
-        context->Fill(p.fillColor, outline);
-    if (p.strokeWidth > 0)
-        context->Stroke(p.strokeColor, p.strokeWidth, p.strokeStyle, outline);
-}
-} // namespace
-
 void TextCallout::paintOutline(DrawingContext *context, CalloutProperties const &properties, Polygon const &outline,
                                Rect const &r) {
-    paint(context, properties, outline, r);
+    Vantrel::paintOutline(context, properties, outline, r);
 }
 
 void TextCallout::paintOutline(DrawingContext *context, CalloutProperties const &properties, Polygons const &outline,
                                Rect const &r) {
-    paint(context, properties, outline, r);
+    Vantrel::paintOutline(context, properties, outline, r);
 }
 
 void TextCallout::paintPath(DrawingContext *context, CalloutProperties const &properties, Path const &path,
