@@ -47,6 +47,26 @@ PangoLayout *prepareText(cairo_t *cr, TextCalloutProperties const &properties, T
     return layout;
 }
 
+// Text preparation for one operation, under the layout lock: the layout is
+// released and the context restored when it goes, the lock released last.
+class PreparedText {
+public:
+    PreparedText(cairo_t *cr_, TextCalloutProperties const &properties, TextAttributeList const &attributes)
+        : guard(layoutLock()), cr(cr_), layout(prepareText(cr_, properties, attributes, &offset)) {}
+    ~PreparedText() {
+        if (layout)
+            g_object_unref(layout);
+        cairo_restore(cr);
+    }
+    PreparedText(PreparedText const &) = delete;
+    PreparedText &operator=(PreparedText const &) = delete;
+
+    std::lock_guard<std::mutex> guard;
+    cairo_t *cr;
+    Point offset;
+    PangoLayout *layout;
+};
+
 void setSource(cairo_t *cr, Color const &c) { CairoUtil::setSourceColor(cr, c); }
 
 // A range of characters cut to the text: offsets past its end, or before its
@@ -80,30 +100,22 @@ void fillMetadata(PangoLayout *layout, Point offset, DrawOutputMetaData *metadat
 void CrossPlatformDrawingContext::DrawTextW(TextCalloutProperties const &properties,
                                             TextAttributeList const &attributes, DrawOutputMetaData *metadata) {
     std::lock_guard<std::mutex> drawing(textDrawingLock());
-    std::lock_guard<std::mutex> layoutGuard(layoutLock());
-    cairo_t *cr = impl->cr;
-    Point offset;
-    PangoLayout *layout = prepareText(cr, properties, attributes, &offset);
-    if (layout) {
-        pango_cairo_show_layout(cr, layout);
-        if (metadata)
-            fillMetadata(layout, offset, metadata);
-        g_object_unref(layout);
-    }
-    cairo_restore(cr);
+    PreparedText prepared(impl->cr, properties, attributes);
+    if (!prepared.layout)
+        return;
+    pango_cairo_show_layout(impl->cr, prepared.layout);
+    if (metadata)
+        fillMetadata(prepared.layout, prepared.offset, metadata);
 }
 
 void CrossPlatformDrawingContext::DrawTextSelection(TextCalloutProperties const &properties,
                                                     TextAttributeList const &attributes, Range const &selection,
                                                     Color const &selectionColor, Color const &caretColor) {
-    std::lock_guard<std::mutex> layoutGuard(layoutLock());
-    cairo_t *cr = impl->cr;
-    Point offset;
-    PangoLayout *layout = prepareText(cr, properties, attributes, &offset);
-    if (!layout) {
-        cairo_restore(cr);
+    PreparedText prepared(impl->cr, properties, attributes);
+    if (!prepared.layout)
         return;
-    }
+    cairo_t *cr = impl->cr;
+    PangoLayout *layout = prepared.layout;
     std::string const &text = properties.text;
     Range chosen = charactersWithin(text, selection.normalized());
     if (chosen.length() < 1) {
@@ -151,21 +163,16 @@ void CrossPlatformDrawingContext::DrawTextSelection(TextCalloutProperties const 
             cairo_stroke(cr);
         }
     }
-    g_object_unref(layout);
-    cairo_restore(cr);
 }
 
 void CrossPlatformDrawingContext::DrawMisspelledRanges(TextCalloutProperties const &properties,
                                                        TextAttributeList const &attributes,
                                                        std::vector<Range> const &ranges, Color const &color) {
-    std::lock_guard<std::mutex> layoutGuard(layoutLock());
-    cairo_t *cr = impl->cr;
-    Point offset;
-    PangoLayout *layout = prepareText(cr, properties, attributes, &offset);
-    if (!layout) {
-        cairo_restore(cr);
+    PreparedText prepared(impl->cr, properties, attributes);
+    if (!prepared.layout)
         return;
-    }
+    cairo_t *cr = impl->cr;
+    PangoLayout *layout = prepared.layout;
     std::string const &text = properties.text;
     double startX = 0, endX = 0, lineBaseline = 0, height = 0, drop = 0;
     auto strokeSegment = [&]() {
@@ -212,8 +219,6 @@ void CrossPlatformDrawingContext::DrawMisspelledRanges(TextCalloutProperties con
         }
         strokeSegment();
     }
-    g_object_unref(layout);
-    cairo_restore(cr);
 }
 
 // The plain layout operations draw at the current point with the current
