@@ -23,7 +23,10 @@ int wrap(int i, int n) { return ((i % n) + n) % n; }
 
 } // namespace
 
-Point const &Polygon::Vertex(int i) const { return points[wrap(i, int(points.size()))]; }
+Point const &Polygon::Vertex(int i) const {
+    static Point const origin;
+    return points.empty() ? origin : points[wrap(i, int(points.size()))];
+}
 
 double Polygon::EdgeLength(int edge) const {
     if (points.empty())

@@ -3,12 +3,14 @@
 #include "../drawing/BoundsFinder.h"
 #include "../drawing/CrossPlatformDrawingContextImpl.h"
 #include "TextLayout.h"
+#include "values/Rounding.h"
 
 #include <vantrel/callouts/BaseCallout.h>
 #include <vantrel/text/UTF8StringUtil.h>
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 
 namespace Vantrel {
 
@@ -87,10 +89,11 @@ void fillMetadata(PangoLayout *layout, Point offset, DrawOutputMetaData *metadat
         PangoRectangle ink;
         pango_layout_iter_get_cluster_extents(it, &ink, nullptr);
         pango_extents_to_pixels(nullptr, &ink);
-        metadata->clusterRects.push_back(
-            Rect(ink.x + offset.x, ink.y + offset.y, ink.x + ink.width + offset.x, ink.y + ink.height + offset.y));
+        // Sums in double: a far position plus a wide extent may pass the int range.
+        double const x = ink.x + offset.x, y = ink.y + offset.y;
+        metadata->clusterRects.push_back(Rect(x, y, x + double(ink.width), y + double(ink.height)));
         metadata->clusterBaselines.push_back(
-            int(std::lround(pango_units_to_double(pango_layout_iter_get_baseline(it)) + offset.y)));
+            saturatingRound(pango_units_to_double(pango_layout_iter_get_baseline(it)) + offset.y));
     } while (pango_layout_iter_next_cluster(it));
     pango_layout_iter_free(it);
 }
@@ -127,20 +130,26 @@ void CrossPlatformDrawingContext::DrawTextSelection(TextCalloutProperties const 
                         pango_units_to_double(strong.height));
         cairo_fill(cr);
     } else {
-        int const spacing = pango_layout_get_spacing(layout), half = spacing / 2;
-        auto band = [&](PangoRectangle const &p) {
-            cairo_rectangle(cr, pango_units_to_double(p.x), pango_units_to_double(p.y - half),
-                            pango_units_to_double(p.width), pango_units_to_double(p.height + spacing));
+        // Positions in 64 bits: the line spacing may be as large as an int
+        // holds, and a band reaches half of it beyond its line.
+        struct Band {
+            int64_t x, y, width, height;
         };
-        std::vector<PangoRectangle> runs;
+        int64_t const spacing = pango_layout_get_spacing(layout), half = spacing / 2;
+        auto band = [&](Band const &p) {
+            cairo_rectangle(cr, double(p.x) / PANGO_SCALE, double(p.y - half) / PANGO_SCALE,
+                            double(p.width) / PANGO_SCALE, double(p.height + spacing) / PANGO_SCALE);
+        };
+        std::vector<Band> runs;
         for (int i = chosen.start(); i < chosen.end(); ++i) {
-            PangoRectangle pos;
-            pango_layout_index_to_pos(layout, UTF8StringUtil::byteOffsetFromCharacterOffset(text, i), &pos);
+            PangoRectangle index;
+            pango_layout_index_to_pos(layout, UTF8StringUtil::byteOffsetFromCharacterOffset(text, i), &index);
+            Band const pos{index.x, index.y, index.width, index.height};
             setSource(cr, selectionColor);
             band(pos);
             cairo_fill(cr);
             bool merged = false;
-            for (PangoRectangle &r : runs) {
+            for (Band &r : runs) {
                 if (r.y != pos.y || r.height != pos.height)
                     continue;
                 if (r.x + r.width == pos.x) {
@@ -158,7 +167,7 @@ void CrossPlatformDrawingContext::DrawTextSelection(TextCalloutProperties const 
                 runs.push_back(pos);
         }
         setSource(cr, Color(0, 0, 0, selectionColor.alpha));
-        for (PangoRectangle const &r : runs) {
+        for (Band const &r : runs) {
             band(r);
             cairo_stroke(cr);
         }

@@ -1,8 +1,10 @@
 #include <vantrel/text/TextAttributeList.h>
 
 #include "CharacterSpacingAttribute.h"
+#include "values/Rounding.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <pango/pango.h>
 #include <set>
 
@@ -28,7 +30,52 @@ std::vector<int> listedTypes() {
             PANGO_ATTR_ABSOLUTE_SIZE,   characterSpacingType()};
 }
 
-guint16 channel(float c) { return guint16(c * 65535.0f); }
+// A channel outside 0..1 (a Color is not clamped) is cut to it; NaN is 0.
+guint16 channel(float c) { return !(c > 0.0f) ? 0 : c >= 1.0f ? 65535 : guint16(c * 65535.0f); }
+
+// Byte offsets as pango holds them: a reversed range with its ends swapped, a
+// negative offset as 0. Pango must never see a start after its end.
+void setByteRange(PangoAttribute *attribute, Range const &range) {
+    Range const r = range.normalized();
+    attribute->start_index = guint(std::max(0, r.start()));
+    attribute->end_index = guint(std::max(0, r.end()));
+}
+
+// An offset moved by delta, kept within what pango's unsigned offsets hold.
+guint movedOffset(guint offset, int64_t delta) {
+    int64_t const moved = int64_t(offset) + delta;
+    return moved < 0 ? 0 : moved > int64_t(G_MAXUINT) ? G_MAXUINT : guint(moved);
+}
+
+bool sortedByStart(PangoAttrList *list) {
+    GSList *all = pango_attr_list_get_attributes(list);
+    bool sorted = true;
+    guint last = 0;
+    for (GSList *l = all; l; l = l->next) {
+        auto *a = static_cast<PangoAttribute *>(l->data);
+        sorted = sorted && a->start_index >= last;
+        last = a->start_index;
+    }
+    g_slist_free_full(all, reinterpret_cast<GDestroyNotify>(pango_attribute_destroy));
+    return sorted;
+}
+
+// A new list of copies of every attribute, in the order of their starts (of
+// equal starts, the earlier first). Pango's iterators and its change and
+// splice operations take the order for granted.
+PangoAttrList *sortedCopy(PangoAttrList *list) {
+    GSList *all = pango_attr_list_get_attributes(list);
+    std::vector<PangoAttribute *> attributes;
+    for (GSList *l = all; l; l = l->next)
+        attributes.push_back(static_cast<PangoAttribute *>(l->data));
+    g_slist_free(all);
+    std::stable_sort(attributes.begin(), attributes.end(),
+                     [](PangoAttribute const *a, PangoAttribute const *b) { return a->start_index < b->start_index; });
+    PangoAttrList *sorted = pango_attr_list_new();
+    for (PangoAttribute *a : attributes)
+        pango_attr_list_insert(sorted, a);
+    return sorted;
+}
 
 } // namespace
 
@@ -73,9 +120,20 @@ TextAttributeList::~TextAttributeList() {
 
 PangoAttrList *TextAttributeList::pangoAttrList() const { return attrList->list; }
 
+void TextAttributeList::replaceList(PangoAttrList *list) {
+    lockList();
+    pango_attr_list_unref(attrList->list);
+    attrList->list = list;
+    unlockList();
+}
+
+void TextAttributeList::keepSorted() {
+    if (!sortedByStart(attrList->list))
+        replaceList(sortedCopy(attrList->list));
+}
+
 void TextAttributeList::change(PangoAttribute *attribute, Range const &range) {
-    attribute->start_index = guint(range.start());
-    attribute->end_index = guint(range.end());
+    setByteRange(attribute, range);
     lockList();
     pango_attr_list_change(attrList->list, attribute);
     unlockList();
@@ -90,13 +148,7 @@ void TextAttributeList::addFontNameAttribute(Range const &range, std::string con
 }
 
 void TextAttributeList::addFontSizeAttribute(Range const &range, double points) {
-    double units = points * 1024.0;
-    // Truncated; sizes beyond what an int holds saturate rather than being undefined.
-    int size = units >= 2147483647.0    ? 2147483647
-               : units <= -2147483648.0 ? -2147483647 - 1
-               : units == units         ? int(units)
-                                        : 0;
-    change(pango_attr_size_new(size), range);
+    change(pango_attr_size_new(saturatingInt(points * 1024.0)), range);
 }
 
 void TextAttributeList::addFontWeightAttribute(Range const &range, int weight) {
@@ -124,6 +176,10 @@ void TextAttributeList::addFontFallbackAttribute(Range const &range, bool fallba
 }
 
 void TextAttributeList::addPangoAttribute(PangoAttribute *attribute) {
+    if (!attribute)
+        return;
+    if (attribute->start_index > attribute->end_index)
+        std::swap(attribute->start_index, attribute->end_index);
     lockList();
     pango_attr_list_change(attrList->list, attribute);
     unlockList();
@@ -168,10 +224,12 @@ std::vector<boost::shared_ptr<PangoAttributeContainer>> TextAttributeList::attri
 
 TextAttributeList TextAttributeList::attributeListForSubRange(Range const &range) const {
     TextAttributeList sub;
+    PangoAttribute bounds;
+    setByteRange(&bounds, range);
     for (PangoAttribute *a : pangoAttributes()) {
         PangoAttribute *copy = pango_attribute_copy(a);
-        copy->start_index = std::max(copy->start_index, guint(range.start()));
-        copy->end_index = std::min(copy->end_index, guint(range.end()));
+        copy->start_index = std::max(copy->start_index, bounds.start_index);
+        copy->end_index = std::min(copy->end_index, bounds.end_index);
         if (copy->end_index > copy->start_index) {
             sub.lockList();
             pango_attr_list_change(sub.attrList->list, copy);
@@ -184,39 +242,41 @@ TextAttributeList TextAttributeList::attributeListForSubRange(Range const &range
 }
 
 void TextAttributeList::extendAttributes(int position, int length) {
+    if (length <= 0)
+        return;
     lockList();
     PangoAttrList *empty = pango_attr_list_new();
-    pango_attr_list_splice(attrList->list, empty, position - 1 > 0 ? position - 1 : 0, length);
+    pango_attr_list_splice(attrList->list, empty, position > 1 ? position - 1 : 0, length);
     pango_attr_list_unref(empty);
     unlockList();
 }
 
 void TextAttributeList::removeAttributes(int start, int length) {
-    Range removed(start, int(int64_t(start) + length));
+    // The removed bytes [from, to), in 64 bits: offsets are unsigned in pango.
+    int64_t const from = std::max(0, start), to = std::max(from, int64_t(start) + length);
+    auto overlap = [&](int64_t s, int64_t e) { return std::max<int64_t>(0, std::min(e, to) - std::max(s, from)); };
     for (PangoAttribute *a : pangoAttributes()) {
-        Range before = Range(0, int(a->start_index)).intersection(removed);
-        Range inside = Range(int(a->start_index), int(a->end_index)).intersection(removed);
-        if (before.length() > 0) {
-            a->start_index -= guint(before.length());
-            a->end_index -= guint(before.length());
-        }
-        if (inside.length() > 0)
-            a->end_index -= guint(inside.length());
+        int64_t const before = overlap(0, a->start_index);
+        int64_t const inside = overlap(a->start_index, a->end_index);
+        a->start_index = movedOffset(a->start_index, -before);
+        a->end_index = movedOffset(a->end_index, -before - inside);
     }
+    // Unlisted attributes stayed where they were; order the list again
+    // before it is walked.
+    keepSorted();
     PangoAttrList *rebuilt = pango_attr_list_new();
     for (PangoAttribute *a : pangoAttributes())
         pango_attr_list_insert(rebuilt, pango_attribute_copy(a));
-    lockList();
-    pango_attr_list_unref(attrList->list);
-    attrList->list = rebuilt;
-    unlockList();
+    replaceList(rebuilt);
 }
 
 void TextAttributeList::shiftAllAttributesByOffset(int offset) {
     for (PangoAttribute *a : pangoAttributes()) {
-        a->start_index += guint(offset);
-        a->end_index += guint(offset);
+        a->start_index = movedOffset(a->start_index, offset);
+        if (a->end_index != PANGO_ATTR_INDEX_TO_TEXT_END)
+            a->end_index = movedOffset(a->end_index, offset);
     }
+    keepSorted();
 }
 
 TextAttributeList TextAttributeList::textAttributeListBySettingFontSize(double points, Range const &range) const {
@@ -239,12 +299,8 @@ void TextAttributeList::applyCharacterSpacing() {
             if (!(c->start_index <= s->end_index && c->end_index >= s->start_index))
                 continue;
             int points = reinterpret_cast<PangoAttrSize *>(s)->size / 1024;
-            double units = points * characterSpacingValue(c) * 1024.0;
-            int spacing = units >= 2147483647.0    ? 2147483647
-                          : units <= -2147483648.0 ? -2147483647 - 1
-                          : units == units         ? int(units)
-                                                   : 0;
-            PangoAttribute *letterSpacing = pango_attr_letter_spacing_new(spacing);
+            PangoAttribute *letterSpacing =
+                pango_attr_letter_spacing_new(saturatingInt(points * characterSpacingValue(c) * 1024.0));
             letterSpacing->start_index = std::max(c->start_index, s->start_index);
             letterSpacing->end_index = std::min(c->end_index, s->end_index);
             pango_attr_list_insert(attrList->list, letterSpacing);

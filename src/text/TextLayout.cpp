@@ -184,7 +184,7 @@ double horizontalTextOffset(TextHorizontalAlignment alignment, PangoLayout *layo
         return 0.0;
     PangoRectangle logical;
     pango_layout_get_extents(layout, nullptr, &logical);
-    double w = double((logical.width + 512) >> 10);
+    double w = double(roundedPixels(logical.width));
     switch (int(alignment)) {
     case Center:
         return (boxWidth - w) * 0.5;
@@ -198,7 +198,7 @@ double horizontalTextOffset(TextHorizontalAlignment alignment, PangoLayout *layo
 double verticalTextOffset(TextVerticalAlignment alignment, PangoLayout *layout, double boxHeight) {
     PangoRectangle logical;
     pango_layout_get_extents(layout, nullptr, &logical);
-    double h = double((logical.height + 512) >> 10);
+    double h = double(roundedPixels(logical.height));
     switch (int(alignment)) {
     case Top:
         return 0.0;

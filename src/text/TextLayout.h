@@ -13,6 +13,7 @@
 #include <vantrel/text/TextCalloutProperties.h>
 
 #include <cairo.h>
+#include <cstdint>
 #include <mutex>
 #include <pango/pangocairo.h>
 
@@ -46,6 +47,10 @@ double verticalTextOffset(TextVerticalAlignment alignment, PangoLayout *layout, 
 // The transformation from layout space to drawing space: flips about the
 // box centre, the box's rounded origin, then the alignment offsets.
 void textLayoutMatrix(TextCalloutProperties const &properties, cairo_matrix_t *matrix, PangoLayout *layout);
+
+// Pango units to whole pixels, halves up, in 64 bits: a layout may be close
+// to the largest int wide, and the half pixel added must not overflow.
+inline int roundedPixels(int units) { return int((int64_t(units) + 512) >> 10); }
 
 // The box's whole-pixel size (floor) and rounded origin.
 int wholePixelWidth(Rect const &r);

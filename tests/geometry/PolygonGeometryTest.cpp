@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <climits>
+
 #include <cmath>
 
 using namespace Vantrel;
@@ -138,4 +140,8 @@ TEST(PolygonGeometry, NearestEdgeAndEdgeLengths) {
     EXPECT_EQ(tri.EdgeLength(-1), 5);
     EXPECT_EQ(tri.EdgeLength(4), 4); // wraps to edge 1
     EXPECT_EQ(Polygon().EdgeLength(0), 0);
+    // Vertex wraps both ways; an empty polygon has only the origin to give.
+    EXPECT_EQ(tri.Vertex(-1), Point(3, 4));
+    EXPECT_EQ(tri.Vertex(INT_MIN), tri.Vertex(INT_MIN % 3 + 3));
+    EXPECT_EQ(Polygon().Vertex(7), Point(0, 0));
 }

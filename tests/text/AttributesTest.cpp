@@ -4,7 +4,10 @@
 #include <pango/pango.h>
 
 #include <algorithm>
+#include <climits>
 #include <cmath>
+#include <random>
+#include <string>
 
 using namespace Vantrel;
 using T = TextAttributeList;
@@ -170,4 +173,150 @@ TEST(TextAttributeList, BadRangesAndTextSurvive) {
     list.applyCharacterSpacing();
     list.attributeRuns();
     SUCCEED();
+}
+
+namespace {
+
+// What pango is handed: every attribute in order of start, none reversed.
+void expectWellFormed(T const &list) {
+    GSList *all = pango_attr_list_get_attributes(list.pangoAttrList());
+    guint last = 0;
+    for (GSList *l = all; l; l = l->next) {
+        auto const *a = static_cast<PangoAttribute const *>(l->data);
+        EXPECT_GE(a->start_index, last);
+        EXPECT_LE(a->start_index, a->end_index);
+        last = a->start_index;
+    }
+    g_slist_free_full(all, reinterpret_cast<GDestroyNotify>(pango_attribute_destroy));
+}
+
+// Lays the list out over a short text, as drawing would.
+void layOut(T const &list) {
+    PangoFonts::setLoadFallbackFonts(false);
+    TextCalloutProperties p;
+    p.text = "hostile ranges";
+    p.textRect = Rect(0, 0, 60, 30);
+    CrossPlatformDrawingContext::calculateDrawingDimensions(p, list);
+}
+
+} // namespace
+
+TEST(TextAttributeList, ReversedAndNegativeRangesAreNormalised) {
+    T sizes; // a reversed range used to reach pango and crash its next change
+    sizes.addFontSizeAttribute(Range(2, 8), 12);
+    sizes.addFontSizeAttribute(Range(2, 1), 20);
+    EXPECT_EQ(rangesOf(sizes, T::FontSize), (std::vector<Range>{Range(1, 2), Range(2, 8)}));
+    T names;
+    names.addFontNameAttribute(Range(10, 20), "DejaVu Sans");
+    names.addFontNameAttribute(Range(10, 5), "DejaVu Serif");
+    EXPECT_EQ(rangesOf(names, T::FontFamily), (std::vector<Range>{Range(5, 10), Range(10, 20)}));
+    T clamped;
+    clamped.addFontWeightAttribute(Range(-5, 3), 700);
+    clamped.addFontWeightAttribute(Range(), 400); // (-1, -1) is empty: adds nothing
+    EXPECT_EQ(rangesOf(clamped, T::FontWeight), (std::vector<Range>{Range(0, 3)}));
+    EXPECT_EQ(rangesOf(clamped.attributeListForSubRange(Range(2, -7)), T::FontWeight),
+              (std::vector<Range>{Range(0, 2)}));
+
+    // (position, length) edits: a negative position is 0, a length at or below 0 does nothing.
+    T edits;
+    edits.addFontWeightAttribute(Range(0, 8), 700);
+    edits.extendAttributes(INT_MIN, 1);
+    EXPECT_EQ(rangesOf(edits, T::FontWeight), (std::vector<Range>{Range(0, 9)}));
+    edits.extendAttributes(4, -3);
+    edits.removeAttributes(5, -2);
+    EXPECT_EQ(rangesOf(edits, T::FontWeight), (std::vector<Range>{Range(0, 9)}));
+    edits.removeAttributes(-4, 6); // removes bytes 0 and 1
+    EXPECT_EQ(rangesOf(edits, T::FontWeight), (std::vector<Range>{Range(0, 7)}));
+
+    // Colour channels outside 0..1 are cut to it.
+    T colour;
+    colour.addFGColorAttribute(Range(0, 1), Color(2.0f, -1.0f, std::nanf("")));
+    EXPECT_EQ(T::valueOfPangoAttribute<Color>(first(colour, T::ForegroundColor)), Color(1, 0, 0, 1));
+    expectWellFormed(sizes);
+    expectWellFormed(names);
+}
+
+TEST(TextAttributeList, ShiftsKeepTheListOrdered) {
+    // The fallback attribute is not listed and stays put; the weight moves past it.
+    for (int offset : {1, -1, 1000, INT_MIN, INT_MAX}) {
+        SCOPED_TRACE(offset);
+        T list;
+        list.addFontWeightAttribute(Range(0, 8), 700);
+        list.addFontFallbackAttribute(Range(0, 6), false);
+        list.shiftAllAttributesByOffset(offset);
+        expectWellFormed(list);
+        layOut(list);
+    }
+    T list;
+    list.addFontWeightAttribute(Range(0, 8), 700);
+    list.shiftAllAttributesByOffset(-1); // a start at 0 stays there
+    EXPECT_EQ(rangesOf(list, T::FontWeight), (std::vector<Range>{Range(0, 7)}));
+    // Font scaling reads the private spacing type as a type number like any other.
+    list.addCharacterSpacingAttribute(Range(0, 4), 0.2);
+    list.addFontSizeAttribute(Range(0, 4), 20);
+    T scaled = CrossPlatformDrawingContext::textAttributeListByApplyingFontScale(list, 0.5);
+    EXPECT_EQ(T::valueOfPangoAttribute<int>(first(scaled, T::FontSize)), 10);
+}
+
+// Any sequence of operations on any ranges leaves a list pango can use.
+TEST(TextAttributeList, AnyEditSequenceStaysWellFormed) {
+    std::mt19937 random(12);
+    int const offsets[] = {INT_MIN, -7, -1, 0, 1, 2, 3, 5, 8, 13, 40, 1 << 30, INT_MAX};
+    auto offset = [&]() {
+        return random() % 3 == 0 ? offsets[random() % (sizeof offsets / sizeof *offsets)] : int(random() % 30);
+    };
+    for (int sequence = 0; sequence < 150; ++sequence) {
+        T list;
+        std::string trail;
+        for (int step = 0; step < 16; ++step) {
+            Range r(offset(), offset());
+            int operation = int(random() % 11);
+            trail +=
+                std::to_string(operation) + " (" + std::to_string(r.start()) + "," + std::to_string(r.end()) + ") ";
+            switch (operation) {
+            case 0:
+                list.addFontSizeAttribute(r, 5 + random() % 30);
+                break;
+            case 1:
+                list.addFontWeightAttribute(r, random() % 2 ? 700 : 400);
+                break;
+            case 2:
+                list.addFontFallbackAttribute(r, false);
+                break;
+            case 3:
+                list.addCharacterSpacingAttribute(r, 0.1 * (random() % 4));
+                break;
+            case 4: {
+                PangoAttribute *features = pango_attr_font_features_new("liga 0");
+                features->start_index = guint(r.start());
+                features->end_index = guint(r.end());
+                list.addPangoAttribute(features);
+                break;
+            }
+            case 5:
+                list.extendAttributes(r.start(), r.end());
+                break;
+            case 6:
+                list.removeAttributes(r.start(), r.end());
+                break;
+            case 7:
+                list.shiftAllAttributesByOffset(r.start());
+                break;
+            case 8:
+                list = list.attributeListForSubRange(r);
+                break;
+            case 9:
+                list = list.textAttributeListBySettingFontSize(9, r);
+                break;
+            default:
+                list.applyCharacterSpacing();
+                break;
+            }
+            SCOPED_TRACE(trail);
+            expectWellFormed(list);
+            if (HasFailure())
+                return;
+        }
+        layOut(list);
+    }
 }

@@ -2,6 +2,8 @@
 
 #include "drawing/BoundsFinder.h"
 
+#include <cfloat>
+#include <cmath>
 #include <memory>
 
 using namespace Vantrel;
@@ -147,5 +149,36 @@ TEST_F(TextTest, BadTextAndRangesSurvive) {
         callout.drawMisspelledRangesIntoContext(&canvas.context, {Range(-4, 3), Range(2, 99)}, Color(1, 0, 0));
         CrossPlatformDrawingContext::calculateDrawingFontScale(callout.textCalloutProperties(), a);
         TextCalloutUtil::lineRanges(callout.textCalloutProperties(), a);
+    }
+}
+
+// Sizes at the ends of pango's int units: the library's own arithmetic on
+// them stays defined (the sanitizer build checks), and drawing goes on.
+TEST_F(TextTest, ExtremeSpacingAndWidthsStayDefined) {
+    std::string text = "abc def\nghi";
+    struct Case {
+        char const *what;
+        double verticalSpace, size, characterSpacing;
+        bool wordWrap;
+    };
+    for (Case c :
+         {Case{"line spacing 1e9", 1e9, 14, 0, true}, Case{"a layout about INT_MAX units wide", 0, 1, DBL_MAX, false},
+          Case{"negative spacing", -1e9, 14, -DBL_MAX, false}}) {
+        SCOPED_TRACE(c.what);
+        TextCalloutProperties p = box(text, Rect(0, 0, 80, 40));
+        p.verticalSpace = c.verticalSpace;
+        p.wordWrap = c.wordWrap;
+        p.resizeBehavior = "none";
+        p.horizontalAlignment = Center;
+        TextAttributeList a = attributes(text, c.size);
+        a.addCharacterSpacingAttribute(Range(0, int(text.size())), c.characterSpacing);
+        TextCallout callout(Rect(), p, a);
+        Canvas canvas(80, 40);
+        DrawOutputMetaData metadata;
+        draw(callout, canvas, &metadata);
+        callout.drawSelectionIntoContext(&canvas.context, Range(0, 9), Color(0, 0, 1), Color(1, 0, 0));
+        callout.drawMisspelledRangesIntoContext(&canvas.context, {Range(0, 9)}, Color(1, 0, 0));
+        for (Rect const &r : metadata.clusterRects)
+            EXPECT_TRUE(std::isfinite(r.Left()) && std::isfinite(r.Right()));
     }
 }

@@ -33,12 +33,24 @@ private:
 
 // A list of attributes behind a spin lock of its own. Copies are deep. A list
 // being edited belongs to one thread at a time: the attributes handed out by
-// pangoAttributes() are the list's own and are used outside the lock.
+// pangoAttributes() are the list's own and are used outside the lock; an edit
+// that rebuilds the list (removeAttributes, and a shift that has to reorder
+// it) leaves earlier pointers dangling.
+//
+// Offsets from a host are never an error. Every Range is read with its ends
+// swapped if it is reversed and with negative offsets as 0, so the default
+// Range (-1, -1) is empty, and an add over an empty range adds nothing. A
+// length at or below 0 inserts or removes nothing; an insertion at a negative
+// position is one at 0, and a removal removes only the bytes of
+// (start, start + length) that lie at or after 0. Offsets that a shift or an
+// extension would carry below 0 or past the unsigned range stop there. The
+// list handed to pango is always ordered by start, with no start after its end.
 class TextAttributeList {
 public:
     // pango's PangoAttrType numbers; CustomCharacterSpacing is the number the
-    // private "vtl_character_spacing" type was registered under.
-    enum AttributeType {
+    // private "vtl_character_spacing" type was registered under. The type is
+    // int-based, so every registered number is one of its values.
+    enum AttributeType : int {
         Language = 1,
         FontFamily = 2,
         FontStyle = 3,
@@ -69,7 +81,8 @@ public:
 
     // Each add replaces attributes of the same type in the range and merges
     // equal neighbours (pango_attr_list_change).
-    // Red, green and blue as 16-bit channels; alpha is not stored.
+    // Red, green and blue as 16-bit channels, each cut to 0..1 first; alpha
+    // is not stored.
     void addFGColorAttribute(Range const &range, Color const &color);
     void addFontNameAttribute(Range const &range, std::string const &family);
     // Points, stored as 1024ths, truncated.
@@ -81,7 +94,8 @@ public:
     // A factor of the font size: 0.1 on 20-point text spaces letters by 2 points.
     void addCharacterSpacingAttribute(Range const &range, double factor);
     void addFontFallbackAttribute(Range const &range, bool fallback);
-    // Takes ownership of a ready attribute; its range stays as created.
+    // Takes ownership of a ready attribute; its range stays as created, but
+    // for a reversed one, whose ends are swapped. A null attribute is ignored.
     void addPangoAttribute(PangoAttribute *attribute);
 
     // The attributes of the sixteen listed types that are topmost somewhere,
@@ -98,7 +112,8 @@ public:
     // length bytes were removed at start: ranges shrink and move back. The
     // list is rebuilt from what pangoAttributes() lists: other types are lost.
     void removeAttributes(int start, int length);
-    // Moves every listed attribute by offset; unlisted types stay where they are.
+    // Moves every listed attribute by offset; unlisted types stay where they
+    // are, and the list is reordered by start where that leaves it out of order.
     void shiftAllAttributesByOffset(int offset);
     TextAttributeList textAttributeListBySettingFontSize(double points, Range const &range) const;
     // Turns the spacing factors into letter spacing of the font size beneath,
@@ -119,6 +134,8 @@ private:
     void lockList() const;
     void unlockList() const;
     void change(PangoAttribute *attribute, Range const &range);
+    void replaceList(PangoAttrList *list);
+    void keepSorted();
 
     Cell *attrList;
     mutable std::atomic<int> lock{0};

@@ -63,7 +63,8 @@ struct Polygon {
     int NearestEdgeIndex(Point const &p) const;
     // Length of the edge from vertex edge to edge + 1; indices wrap around.
     double EdgeLength(int edge) const;
-    // The vertex of index i, wrapping around in both directions.
+    // The vertex of index i, wrapping around in both directions; the origin
+    // for an empty polygon, which has no vertex to wrap to.
     Point const &Vertex(int i) const;
 
     // The union of the two polygons, as Polygons::UnionWith.
