@@ -59,7 +59,12 @@ h_state const next_h_state[3][6] = {
     {NH, NH, NH, NH, BH, BH},
 };
 
-bool EQ(double a, double b) { return std::fabs(a - b) <= GPC_EPSILON; }
+// Equal within the rounding of the larger of the two, or GPC_EPSILON near 0:
+// two edges computed from different vertices of one line differ by an ulp or
+// two of their x, which an absolute epsilon misses beyond x = 1.
+bool EQ(double a, double b) {
+    return std::fabs(a - b) <= 2 * GPC_EPSILON * std::max(1.0, std::max(std::fabs(a), std::fabs(b)));
+}
 
 struct vertex_node {
     double x, y;
@@ -177,9 +182,43 @@ int nextIndex(int i, int n) { return (i + 1) % n; }
 
 bool finite(gpc_vertex const &v) { return std::isfinite(v.x) && std::isfinite(v.y); }
 
+// Whether c lies on the line through a and b as far as double arithmetic can
+// tell: the orientation determinant is within its own rounding error bound
+// of zero.
+bool onLine(gpc_vertex const &a, gpc_vertex const &b, gpc_vertex const &c) {
+    double const left = (a.x - c.x) * (b.y - c.y), right = (a.y - c.y) * (b.x - c.x);
+    return std::fabs(left - right) <= 4 * DBL_EPSILON * (std::fabs(left) + std::fabs(right));
+}
+
+// A contour whose vertices all lie on one line encloses nothing by any rule.
+// Its edges come in coincident pairs that cancel in exact arithmetic, but
+// computed apart they may not cancel and would cut slivers out of other
+// contours; such a contour adds no edge at all.
+bool enclosesNothing(gpc_vertex const *v, int n) {
+    int low = 0, high = 0; // the extremes along the wider axis of the box
+    double xmin = v[0].x, xmax = v[0].x, ymin = v[0].y, ymax = v[0].y;
+    for (int i = 1; i < n; ++i) {
+        xmin = std::min(xmin, v[i].x), xmax = std::max(xmax, v[i].x);
+        ymin = std::min(ymin, v[i].y), ymax = std::max(ymax, v[i].y);
+    }
+    bool const alongX = xmax - xmin >= ymax - ymin;
+    for (int i = 1; i < n; ++i) {
+        double const key = alongX ? v[i].x : v[i].y;
+        if (key < (alongX ? v[low].x : v[low].y))
+            low = i;
+        if (key > (alongX ? v[high].x : v[high].y))
+            high = i;
+    }
+    for (int i = 0; i < n; ++i)
+        if (!onLine(v[low], v[high], v[i]))
+            return false;
+    return true;
+}
+
 // The finite vertices of a contour that are optimal: not inside a horizontal
 // run, that is not with both neighbours at their own y. Writes them to out
-// when it is given, and returns their count.
+// when it is given, and returns their count: none for a contour that
+// encloses nothing.
 int optimalVertices(gpc_vertex_list const &contour, gpc_vertex *out) {
     std::vector<gpc_vertex> kept;
     gpc_vertex const *v = contour.vertex;
@@ -194,6 +233,8 @@ int optimalVertices(gpc_vertex_list const &contour, gpc_vertex *out) {
         v = kept.data();
         n = int(kept.size());
     }
+    if (n < 3 || enclosesNothing(v, n))
+        return 0;
     int count = 0;
     for (int i = 0; i < n; ++i) {
         if (v[prevIndex(i, n)].y != v[i].y || v[nextIndex(i, n)].y != v[i].y) {
@@ -209,23 +250,23 @@ bool boundAfter(edge_node const *a, edge_node const *b) {
     return a->bot.x > b->bot.x || (a->bot.x == b->bot.x && a->dx > b->dx);
 }
 
-// The local minima table while it is built: the bounds of each height in a
-// sorted array, linked into nodes in ascending height at the end.
+// The local minima table while it is built: the bounds of each height in
+// the order they came, sorted once when they are linked into nodes in
+// ascending height. Inserting one by one into a sorted array would be
+// quadratic in the bounds of one height, and a dashed line has thousands.
 struct LmtBuilder {
     std::map<double, std::vector<edge_node *>> byY;
 
-    // Before the first bound with a greater bot.x, or the same bot.x and a
-    // greater dx: after all its equals.
-    void insertBound(double y, edge_node *e) {
-        std::vector<edge_node *> &bounds = byY[y];
-        auto at = std::upper_bound(bounds.begin(), bounds.end(), e,
-                                   [](edge_node const *a, edge_node const *b) { return boundAfter(b, a); });
-        bounds.insert(at, e);
-    }
+    void insertBound(double y, edge_node *e) { byY[y].push_back(e); }
 
+    // Within a height, a bound goes before the first with a greater bot.x, or
+    // the same bot.x and a greater dx: after all its equals, as a stable sort
+    // by (bot.x, dx) places it.
     lmt_node *link() {
         lmt_node *head = nullptr, **tail = &head;
         for (auto &entry : byY) {
+            std::stable_sort(entry.second.begin(), entry.second.end(),
+                             [](edge_node const *a, edge_node const *b) { return boundAfter(b, a); });
             lmt_node *node = allocate<lmt_node>(1, "LMT insertion");
             node->y = entry.first;
             node->next = nullptr;
@@ -313,6 +354,31 @@ edge_node *buildEdges(LmtBuilder &lmt, std::vector<double> &heights, gpc_polygon
     return table;
 }
 
+// The edge's x at height y, between its ends, measured from the end nearer
+// in height: from a far end (1e300 away, say) the slope's rounding alone
+// would swamp every digit of x. An edge that is nearly horizontal has a
+// slope that overflows; its x then comes from the fraction of its height, so
+// that no coordinate becomes infinite or NaN.
+double xAt(edge_node const *edge, double y) {
+    gpc_vertex const &near = y - edge->bot.y <= edge->top.y - y ? edge->bot : edge->top;
+    double const x = near.x + edge->dx * (y - near.y);
+    if (std::isfinite(x))
+        return x;
+    double const t = (y - edge->bot.y) / (edge->top.y - edge->bot.y);
+    return (1 - t) * edge->bot.x + t * edge->top.x;
+}
+
+// The edge's x at the top of the scanbeam that ends at yt.
+double xTop(edge_node const *edge, double yt) { return edge->top.y == yt ? edge->top.x : xAt(edge, yt); }
+
+// Whether two edges that go on above the boundary coincide throughout the
+// scanbeam: the same x at its bottom and at its top. Equal slopes alone
+// would not do: over a beam 1e299 high, slopes that agree to the last digit
+// still part by many units.
+bool coincide(edge_node const *a, edge_node const *b, double yt) {
+    return EQ(a->xb, b->xb) && EQ(xTop(a, yt), xTop(b, yt));
+}
+
 // The active edge table: ordered by xb, then dx; a new edge goes behind its
 // equals. The bounds of one local minimum come in ascending order, so the walk
 // for each may start at the one added before it (from): every edge before that
@@ -352,11 +418,22 @@ void addIntersection(Pools &pools, it_node **it, edge_node *edge0, edge_node *ed
 void addStEdge(Pools &pools, st_node **st, it_node **it, edge_node *edge, double dy) {
     while (*st) {
         st_node *s = *st;
-        double den = (s->xt - s->xb) - (edge->xt - edge->xb);
-        if (edge->xt >= s->xt || edge->dx == s->dx || std::fabs(den) <= GPC_EPSILON)
+        // The gaps between the two at the top and at the bottom, each taken
+        // first: two edges from one far vertex have the same huge x there,
+        // which a difference of their own runs would cancel with every digit.
+        double den = (s->xt - edge->xt) - (s->xb - edge->xb);
+        // Edges whose slopes agree to the last digit may still cross within a
+        // tall beam, so only the gaps decide.
+        if (edge->xt >= s->xt || std::fabs(den) <= GPC_EPSILON)
             break;
+        // The crossing lies within the scanbeam; rounding of nearly parallel
+        // edges may put r outside it, or, with overflowing differences, make
+        // it NaN. Its x is measured from the nearer end of the beam.
         double r = (edge->xb - s->xb) / den;
-        double x = s->xb + r * (s->xt - s->xb);
+        r = r > 1 ? 1 : r >= 0 ? r : 0;
+        double x = r <= 0.5 ? s->xb + r * (s->xt - s->xb) : s->xt - (1 - r) * (s->xt - s->xb);
+        if (!std::isfinite(x))
+            x = (1 - r) * s->xb + r * s->xt;
         addIntersection(pools, it, s->edge, edge, x, r * dy);
         st = &s->prev;
     }
@@ -530,6 +607,22 @@ bool crossingInOrder(edge_node *e0, edge_node *e1) {
     return false;
 }
 
+// Three or more edges that cross at one point have their crossings computed
+// apart, and rounding may sort them so that the first to come is between
+// edges that are not neighbours yet. The first later crossing whose edges are
+// neighbours now is taken in its place; the crossing it displaces comes up
+// again at the later place. False when there is none.
+bool bringForwardReadyCrossing(it_node *node) {
+    for (it_node *ready = node->next; ready; ready = ready->next) {
+        if (crossingInOrder(ready->ie[0], ready->ie[1])) {
+            std::swap(node->ie, ready->ie);
+            std::swap(node->point, ready->point);
+            return true;
+        }
+    }
+    return false;
+}
+
 // Phase 6: the contours of at least 3 vertices, most recently started first,
 // each list stored from its last vertex down. The nodes belong to the pools.
 void writeResult(polygon_node *out, gpc_polygon *result) {
@@ -667,7 +760,7 @@ void gpc_polygon_clip(gpc_op op, gpc_polygon *subject, gpc_polygon *clip, gpc_po
                 e->bstate[ABOVE] = UNBUNDLED;
                 if (e == aet || !e->bundle[ABOVE][e->type])
                     continue;
-                if (EQ(e0->xb, e->xb) && EQ(e0->dx, e->dx) && e0->top.y != yb) {
+                if (e0->top.y != yb && coincide(e0, e, yt)) {
                     e->bundle[ABOVE][e->type] ^= e0->bundle[ABOVE][e->type];
                     e->bundle[ABOVE][!e->type] = e0->bundle[ABOVE][!e->type];
                     e->bstate[ABOVE] = BUNDLE_HEAD;
@@ -831,7 +924,7 @@ void gpc_polygon_clip(gpc_op op, gpc_polygon *subject, gpc_polygon *clip, gpc_po
                         prev->bstate[BELOW] = BUNDLE_HEAD;
                 }
             } else {
-                edge->xt = edge->top.y == yt ? edge->top.x : edge->bot.x + edge->dx * (yt - edge->bot.y);
+                edge->xt = xTop(edge, yt);
             }
         }
         if (scanbeam >= beams)
@@ -840,9 +933,9 @@ void gpc_polygon_clip(gpc_op op, gpc_polygon *subject, gpc_polygon *clip, gpc_po
         // Crossing step: crossings inside the scanbeam, lowest first.
         buildIntersectionTable(pools, &it, aet, dy);
         for (it_node *node = it; node; node = node->next) {
-            edge_node *e0 = node->ie[0], *e1 = node->ie[1];
-            if (!crossingInOrder(e0, e1))
+            if (!crossingInOrder(node->ie[0], node->ie[1]) && !bringForwardReadyCrossing(node))
                 continue;
+            edge_node *e0 = node->ie[0], *e1 = node->ie[1];
             bool above0 = e0->bundle[ABOVE][CLIP] || e0->bundle[ABOVE][SUBJ];
             bool above1 = e1->bundle[ABOVE][CLIP] || e1->bundle[ABOVE][SUBJ];
             if (above0 && above1) {

@@ -34,10 +34,19 @@ enum gpc_op {
 // read; result may be the subject or the clip itself, which is then freed
 // once read. Free the result with gpc_free_polygon.
 //
-// Beyond the classic engine: vertices with a non-finite coordinate are left
-// out of their contour, so a contour counts as the polygon of its finite
-// vertices; an intersection that rounding puts out of order in the sweep is
-// skipped rather than allowed to corrupt the edge table.
+// Beyond the classic engine, for input that rounding makes degenerate:
+// - vertices with a non-finite coordinate are left out of their contour, so a
+//   contour counts as the polygon of its finite vertices; finite input gives
+//   finite output, also where a slope overflows (a rise of 1e-300);
+// - a contour whose vertices all lie on one line (to the precision of the
+//   arithmetic) encloses nothing and adds no edge;
+// - edges are bundled as coincident when they have the same x, to an ulp or
+//   two, at both ends of the scanbeam, and x is computed from the nearer end
+//   of an edge, so that a far vertex (1e300) costs the near ones no digits;
+// - crossings that rounding sorts out of the order in which the edges meet
+//   (three or more edges through one point) are taken in an order that can
+//   be carried out; one that still cannot is skipped rather than allowed to
+//   corrupt the edge table.
 //
 // Every allocation goes through one rule: out of memory writes
 // "gpc malloc failure: <label>" to the standard error stream and ends the

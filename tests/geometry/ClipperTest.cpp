@@ -35,14 +35,18 @@ struct Operand {
     gpc_polygon *get() { return &polygon; }
 };
 
-// Even-odd membership over every contour.
+// Even-odd membership over every contour. An edge's x is taken from its end
+// nearer in height, so that a far vertex (1e300) keeps its digits.
 bool inside(std::vector<Contour> const &contours, double x, double y) {
     bool in = false;
     for (Contour const &c : contours) {
         size_t n = c.size();
         for (size_t i = 0, j = n - 1; i < n; j = i++) {
             gpc_vertex const &a = c[i], &b = c[j];
-            if ((a.y > y) != (b.y > y) && x < (b.x - a.x) * (y - a.y) / (b.y - a.y) + a.x)
+            if ((a.y > y) == (b.y > y))
+                continue;
+            gpc_vertex const &near = std::fabs(y - a.y) <= std::fabs(y - b.y) ? a : b;
+            if (x < (b.x - a.x) / (b.y - a.y) * (y - near.y) + near.x)
                 in = !in;
         }
     }
@@ -289,4 +293,121 @@ TEST(PolygonsUnion, RingsComeBackSolidAndOperandsCountEvenOdd) {
     for (auto const &p : split.polygons)
         total += std::fabs(p->SignedArea());
     EXPECT_NEAR(total, 100 + 100 + 1, 1e-9);
+}
+
+TEST(PolygonsUnion, DegenerateContoursAddNothingAndTakeNothing) {
+    // A slope that overflows (1e10 / 1e-300) must not reach the result as a NaN.
+    Polygon sliver{Point(0, 0), Point(1e10, 1e-300), Point(1e10, 2e-300)},
+        corner{Point(0, 0), Point(1, 0), Point(0, 1)};
+    double area = 0;
+    for (auto const &p : sliver.UnionWith(corner).polygons) {
+        for (Point const &v : p->points)
+            EXPECT_TRUE(std::isfinite(v.x) && std::isfinite(v.y)) << v;
+        area += std::fabs(p->SignedArea());
+    }
+    EXPECT_NEAR(area, 0.5, 1e-12);
+
+    // Three collinear points enclose nothing and leave the other triangle whole.
+    Polygon triangle{Point(5, 5), Point(2.5, 5), Point(3, 2)}, flat{Point(5, 0), Point(3, 3), Point(4, 1.5)};
+    Polygons united = triangle.UnionWith(flat);
+    ASSERT_EQ(united.polygons.size(), 1u);
+    EXPECT_NEAR(std::fabs(united.polygons[0]->SignedArea()), 3.75, 1e-12);
+}
+
+namespace {
+
+// Measured from the end nearer to the point, along a direction scaled to
+// at most 1, so that edges to a far vertex (1e300) neither overflow nor lose
+// their digits.
+double distanceToSegment(gpc_vertex const &a, gpc_vertex const &b, double x, double y) {
+    bool const fromA = std::hypot(x - a.x, y - a.y) <= std::hypot(x - b.x, y - b.y);
+    gpc_vertex const &p = fromA ? a : b, &q = fromA ? b : a;
+    double const m = std::max(std::fabs(q.x - p.x), std::fabs(q.y - p.y));
+    if (m == 0)
+        return std::hypot(x - p.x, y - p.y);
+    double const ux = (q.x - p.x) / m, uy = (q.y - p.y) / m;
+    if ((x - p.x) * ux + (y - p.y) * uy <= 0)
+        return std::hypot(x - p.x, y - p.y);
+    return std::fabs((x - p.x) * uy - (y - p.y) * ux) / std::hypot(ux, uy);
+}
+
+bool nearAnEdge(std::vector<Contour> const &contours, double x, double y, double tolerance) {
+    for (Contour const &c : contours)
+        for (size_t i = 0; i < c.size(); ++i)
+            if (distanceToSegment(c[i], c[(i + 1) % c.size()], x, y) < tolerance)
+                return true;
+    return false;
+}
+
+// A contour on a coarse grid, with one kind of degenerate value worked in.
+Contour degenerateContour(std::mt19937 &rng, int kind) {
+    std::uniform_int_distribution<int> grid(0, 10);
+    auto point = [&]() { return gpc_vertex{grid(rng) * 10.0, grid(rng) * 10.0}; };
+    Contour c;
+    int n = 3 + int(rng() % 5);
+    if (kind == 0) { // every vertex on one line: no area
+        gpc_vertex a = point(), b = point();
+        for (int i = 0; i < n; ++i) {
+            double t = double(rng() % 7) / 3.0 - 0.5;
+            c.push_back({a.x + t * (b.x - a.x), a.y + t * (b.y - a.y)});
+        }
+        return c;
+    }
+    for (int i = 0; i < n; ++i)
+        c.push_back(point());
+    size_t at = rng() % c.size();
+    gpc_vertex v = c[at], w = c[(at + 1) % c.size()];
+    switch (kind) {
+    case 1: // duplicates
+        c.insert(c.begin() + long(at), v);
+        c.insert(c.begin() + long(at), v);
+        break;
+    case 2: // a collinear run along an edge
+        c.insert(c.begin() + long(at) + 1, {(v.x + w.x) / 2, (v.y + w.y) / 2});
+        c.insert(c.begin() + long(at) + 1, {(3 * v.x + w.x) / 4, (3 * v.y + w.y) / 4});
+        break;
+    case 3: // steps of 1e-300: slopes that overflow
+        c.insert(c.begin() + long(at) + 1, {w.x, v.y + 1e-300});
+        c.insert(c.begin() + long(at) + 1, {v.x + 50, v.y + 2e-300});
+        break;
+    case 4: // a vertex far away
+        c.insert(c.begin() + long(at) + 1, {v.x + 1e300, v.y - 3e299});
+        break;
+    default: // a spike that runs out and back along one line
+        c.insert(c.begin() + long(at) + 1, v);
+        c.insert(c.begin() + long(at) + 1, {v.x + 30, v.y + 20});
+        break;
+    }
+    return c;
+}
+
+} // namespace
+
+// Degenerate values in random contours: the union is finite and is exactly
+// the set of points in either operand, away from the operands' edges.
+TEST(PolygonsUnion, DegenerateValuesGiveFiniteUnionsThatCoverBothOperands) {
+    std::mt19937 rng(7);
+    for (int round = 0; round < 120; ++round) {
+        std::vector<Contour> s{degenerateContour(rng, round % 6)}, c{degenerateContour(rng, (round / 6) % 6)};
+        if (round % 2)
+            s.push_back(degenerateContour(rng, int(rng() % 6)));
+        SCOPED_TRACE("round " + std::to_string(round));
+        Operand subject(s), clip(c);
+        gpc_polygon result;
+        gpc_polygon_clip(GPC_UNION, subject.get(), clip.get(), &result);
+        std::vector<Contour> out = contoursOf(result);
+        gpc_free_polygon(&result);
+        for (Contour const &k : out)
+            for (gpc_vertex const &v : k)
+                ASSERT_TRUE(std::isfinite(v.x) && std::isfinite(v.y));
+        int wrong = 0;
+        for (int i = 0; i < 60; ++i)
+            for (int j = 0; j < 60; ++j) {
+                double x = -2 + (i + 0.5377) * 104.0 / 60, y = -2 + (j + 0.4123) * 104.0 / 60;
+                if (nearAnEdge(s, x, y, 1e-3) || nearAnEdge(c, x, y, 1e-3))
+                    continue;
+                wrong += inside(out, x, y) != (inside(s, x, y) || inside(c, x, y));
+            }
+        EXPECT_EQ(wrong, 0);
+    }
 }
