@@ -53,8 +53,25 @@ void cairoFill(benchmark::State &state, Presets::LineShaftType shaft) {
     cairo_surface_destroy(surface);
 }
 
+// A line whose rhythm is far below a pixel: the full 10,000 dashes, with a
+// cap at each end. One draw of it is bounded, not a reference ratio.
+void thousandsOfDashes(benchmark::State &state) {
+    Bitmap bitmap(512, 512);
+    bitmap.clear();
+    CrossPlatformDrawingContext context(&bitmap);
+    context.Translate(Point(256, 256));
+    LineWithCaps l(kColor);
+    l.startCap = LineEnd{6, Point(-20, 0), true, 7e-15};
+    l.endCap = LineEnd{9, Point(20, 7), true, 7e-15};
+    l.shaft.kind = 10;
+    l.shaft.width = 7e-15;
+    for (auto _ : state)
+        l.drawIntoContext(&context, BaseCallout::DrawOptionAll, Rect(), -1, nullptr);
+}
+
 } // namespace
 
+BENCHMARK(thousandsOfDashes)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(library, solid, Presets::LineShaftSolid);
 BENCHMARK_CAPTURE(cairoFill, solid, Presets::LineShaftSolid);
 BENCHMARK_CAPTURE(library, dashed, Presets::LineShaftDashed);
@@ -66,5 +83,6 @@ int main(int argc, char **argv) {
     return VantrelBench::runWithTargets(
         argc, argv,
         {{"line-solid-vs-fill", {"library/solid"}, {"cairoFill/solid"}},
-         {"line-dashed-vs-fill", {"library/dashed", "library/dotted"}, {"cairoFill/dashed", "cairoFill/dotted"}}});
+         {"line-dashed-vs-fill", {"library/dashed", "library/dotted"}, {"cairoFill/dashed", "cairoFill/dotted"}},
+         {"line-10000-dashes-ns", {"thousandsOfDashes"}, {}}});
 }

@@ -21,12 +21,13 @@ void LineWithCaps::drawIntoContext(DrawingContext *context, DrawOptions, Rect, i
     double const b = second->shaftInset(endCap.joined);
     boost::shared_ptr<Shaft> body = makeShaft(shaft, L - a - b, !startCap.joined, !endCap.joined);
 
-    // In the frame of the line from (0, 0) to (L, 0).
-    Polygons outline = Matrix3x3::Translation(Point(a, 0)) * body->outline();
+    // In the frame of the shaft, which starts at the origin: the line runs
+    // from (-a, 0) to (L - a, 0). One mapping then places everything, so the
+    // thousands of pieces of a dashed shaft are copied once, not twice.
     Polygons firstCap, secondCap;
-    firstCap.Add(first->outline());
-    secondCap.Add(Matrix3x3::Translation(Point(L, 0)) * Matrix3x3::Scale(-1, 1) * second->outline());
-    outline = outline.UnionWith(firstCap).UnionWith(secondCap);
+    firstCap.Add(Matrix3x3::Translation(Point(-a, 0)) * first->outline());
+    secondCap.Add(Matrix3x3::Translation(Point(L - a, 0)) * Matrix3x3::Scale(-1, 1) * second->outline());
+    Polygons const outline = uniteShaftWithCaps(body->outline(), firstCap, secondCap);
 
     GradientPattern gradient;
     bool const fades = shaft.fadeEnd > shaft.fadeStart;
@@ -46,7 +47,8 @@ void LineWithCaps::drawIntoContext(DrawingContext *context, DrawOptions, Rect, i
         }
     }
 
-    Polygons placed = Matrix3x3::SegmentMapping(Point(0, 0), startCap.position, Point(L, 0), endCap.position) * outline;
+    Polygons placed = Matrix3x3::SegmentMapping(Point(0, 0), startCap.position, Point(L, 0), endCap.position) *
+                      Matrix3x3::Translation(Point(a, 0)) * outline;
     if (shaft.outlineOnly)
         context->Stroke(color, 5.0, "", placed);
     else if (fades)

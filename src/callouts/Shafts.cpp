@@ -109,6 +109,41 @@ Polygons DotShaft::outline() const {
     return result;
 }
 
+namespace {
+
+bool boxesMeet(Rect const &a, Rect const &b) {
+    return !(a.Right() < b.Left() || b.Right() < a.Left() || a.Bottom() < b.Top() || b.Bottom() < a.Top());
+}
+
+} // namespace
+
+Polygons uniteShaftWithCaps(Polygons const &pieces, Polygons const &firstCap, Polygons const &secondCap) {
+    std::vector<Rect> caps;
+    std::vector<Polygons const *> drawn; // a cap without points leaves the union as it is
+    for (Polygons const *cap : {&firstCap, &secondCap})
+        for (auto const &p : cap->polygons)
+            if (p && !p->points.empty()) {
+                caps.push_back(p->BoundingRect());
+                if (drawn.empty() || drawn.back() != cap)
+                    drawn.push_back(cap);
+            }
+    Polygons apart, touching;
+    for (auto const &piece : pieces.polygons) {
+        if (!piece)
+            continue;
+        Rect const box = piece->BoundingRect();
+        bool meets = false;
+        for (Rect const &cap : caps)
+            meets = meets || boxesMeet(box, cap);
+        (meets ? touching : apart).polygons.push_back(piece);
+    }
+    Polygons united = touching;
+    for (Polygons const *cap : drawn)
+        united = united.UnionWith(*cap);
+    united.polygons.insert(united.polygons.end(), apart.polygons.begin(), apart.polygons.end());
+    return united;
+}
+
 boost::shared_ptr<Shaft> makeShaft(ShaftSpec const &spec, double length, bool leadingGap, bool trailingGap) {
     auto dots = [&](double gapRatio) {
         return boost::shared_ptr<Shaft>(new DotShaft(spec.width, length, gapRatio, leadingGap, trailingGap));

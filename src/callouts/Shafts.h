@@ -72,6 +72,13 @@ private:
 // pattern that would repeat more often is scaled up first.
 std::vector<double> fitDashPattern(std::vector<double> const &pattern, double total, bool leadingGap, bool trailingGap);
 
+// The shaft's pieces united with both caps' outlines, first then second.
+// Pieces of a shaft never overlap one another, so a piece whose box meets no
+// cap's box would come through the union unchanged: it is passed by, the
+// same Polygon object, after the united ones. A dashed shaft has up to
+// kMaxShaftPieces pieces, and only those at its ends touch a cap.
+Polygons uniteShaftWithCaps(Polygons const &pieces, Polygons const &firstCap, Polygons const &secondCap);
+
 // The shaft of a spec's kind for the given length.
 boost::shared_ptr<Shaft> makeShaft(ShaftSpec const &spec, double length, bool leadingGap, bool trailingGap);
 

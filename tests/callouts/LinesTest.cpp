@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cmath>
 #include <memory>
@@ -356,4 +357,37 @@ TEST(LineWithCaps, HostileInputStaysBounded) {
     }
     // Not a timing test: a guard against the billions of pieces the cap prevents.
     EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(120));
+}
+
+// A draw's work is bounded by its pieces: only the pieces that touch a cap
+// go through the union, the others pass by as they are.
+TEST(LineWithCaps, OnlyPiecesThatTouchACapAreUnited) {
+    DashShaft shaft(1.0, 20000.0, {5.0, 0.5}, false, false);
+    Polygons pieces = shaft.outline();
+    ASSERT_GT(pieces.polygons.size(), 3000u);
+    Polygons first, second, none;
+    first.Add(Polygon(Rect(-2, -2, 1, 2)));
+    second.Add(Polygon(Rect(19999, -2, 20002, 2)));
+    none.Add(Polygon());
+    Polygons united = uniteShaftWithCaps(pieces, first, second);
+    ASSERT_EQ(united.polygons.size(), pieces.polygons.size()); // the end pieces merge with their caps
+    size_t passed = 0;
+    for (size_t i = 0; i < united.polygons.size(); ++i)
+        passed +=
+            std::find(pieces.polygons.begin(), pieces.polygons.end(), united.polygons[i]) != pieces.polygons.end();
+    EXPECT_EQ(passed, pieces.polygons.size() - 2);
+    // Caps without points leave the pieces exactly as they were.
+    Polygons alone = uniteShaftWithCaps(pieces, none, none);
+    EXPECT_EQ(alone.polygons, pieces.polygons);
+
+    // The dashed line that once took 10,000 dashes through the union at every draw.
+    LineWithCaps line(kInk);
+    line.startCap = LineEnd{6, Point(-20, 0), true, 7e-15};
+    line.endCap = LineEnd{9, Point(20, 7), true, 7e-15};
+    line.shaft.kind = 10;
+    line.shaft.width = 7e-15;
+    Polygons outline = line.pathAsPolygons(Rect());
+    EXPECT_LE(outline.polygons.size(), size_t(kMaxShaftPieces) + 2);
+    VantrelTest::Canvas canvas(64, 64);
+    line.drawIntoContext(&canvas.context, BaseCallout::DrawOptionAll, Rect(), -1, nullptr);
 }
