@@ -7,7 +7,8 @@ SANITIZE_FLAGS := -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG="-O1 -g" -DVA
 # Leaks reported from inside third-party process-wide caches are listed here, each with its reason.
 # glib's slice allocator recycles memory across threads behind its own futex locks, which the
 # sanitizers cannot see: with G_SLICE=always-malloc it allocates through malloc, which they can.
-SANITIZE_ENV := G_SLICE=always-malloc ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 \
+# Allocation stacks are unwound in full, so that suppressions can name the caches they are for.
+SANITIZE_ENV := G_SLICE=always-malloc ASAN_OPTIONS=detect_leaks=1:abort_on_error=1:fast_unwind_on_malloc=0 \
                 LSAN_OPTIONS=suppressions=$(CURDIR)/tests/sanitizer/lsan.supp:print_suppressions=0 \
                 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
 

@@ -7,6 +7,8 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <string>
+#include <unistd.h>
 
 using namespace Vantrel;
 using testing::internal::CaptureStderr;
@@ -112,4 +114,64 @@ TEST(Fonts, FontsOfAttributes) {
     TextAttributeList plain;
     plain.addFontSizeAttribute(Range(0, 3), 12);
     EXPECT_TRUE(loadFontsOfAttributes(plain));
+}
+
+namespace {
+
+long residentKilobytes() {
+    long size = 0, resident = 0;
+    if (FILE *f = std::fopen("/proc/self/statm", "r")) {
+        if (std::fscanf(f, "%ld %ld", &size, &resident) != 2)
+            resident = 0;
+        std::fclose(f);
+    }
+    return resident * (sysconf(_SC_PAGESIZE) / 1024);
+}
+
+void drawText(CrossPlatformDrawingContext &context, std::string const &family) {
+    TextCalloutProperties p;
+    p.text = "Redrawn on every mouse move";
+    p.textRect = Rect(0, 0, 120, 60);
+    TextAttributeList a;
+    Range all(0, int(p.text.size()));
+    a.addFontNameAttribute(all, family);
+    a.addFontSizeAttribute(all, 14);
+    a.addFGColorAttribute(all, Color(0, 0, 0));
+    context.DrawTextW(p, a, nullptr);
+}
+
+} // namespace
+
+// pango's caches fill in the first draws and then hold: a long session of
+// redraws, unknown families included, keeps its memory. Under
+// AddressSanitizer freed memory waits in quarantine, so only the leak check
+// at exit speaks there.
+TEST(Fonts, RepeatedDrawsHoldTheirMemory) {
+    PangoFonts::setLoadFallbackFonts(false);
+#if defined(__SANITIZE_ADDRESS__)
+    bool const measured = false;
+    int const draws = 400;
+#else
+    bool const measured = true;
+    int const draws = 10000;
+#endif
+    Bitmap bitmap(120, 60);
+    CrossPlatformDrawingContext context(&bitmap);
+    char const *const families[] = {"DejaVu Sans", "No Such Family A", "DejaVu Serif", "No Such Family B"};
+    CaptureStderr(); // the unknown families are reported once each
+    for (int i = 0; i < 400; ++i)
+        drawText(context, families[i % 4]);
+    long const settled = residentKilobytes();
+    for (int i = 0; i < draws; ++i)
+        drawText(context, families[i % 4]);
+    long const after = residentKilobytes();
+    // Each new unknown family costs its own search and fontset, once.
+    for (int i = 0; i < 100; ++i)
+        drawText(context, "Unknown Family " + std::to_string(i));
+    long const afterUnknown = residentKilobytes();
+    GetCapturedStderr();
+    if (measured) {
+        EXPECT_LT(after - settled, 512) << "kB grown over " << draws << " draws";
+        EXPECT_LT(afterUnknown - after, 100 * 128) << "kB for 100 unknown families";
+    }
 }
