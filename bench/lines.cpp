@@ -61,9 +61,9 @@ void thousandsOfDashes(benchmark::State &state) {
     CrossPlatformDrawingContext context(&bitmap);
     context.Translate(Point(256, 256));
     LineWithCaps l(kColor);
-    l.startCap = LineEnd{6, Point(-20, 0), true, 7e-15};
-    l.endCap = LineEnd{9, Point(20, 7), true, 7e-15};
-    l.shaft.kind = 10;
+    l.startCap = LineEnd{EndCapKind::BoldDiamond, Point(-20, 0), true, 7e-15};
+    l.endCap = LineEnd{EndCapKind::AbstractArrow, Point(20, 7), true, 7e-15};
+    l.shaft.kind = ShaftKind::UrbanLongDashes;
     l.shaft.width = 7e-15;
     for (auto _ : state)
         l.drawIntoContext(&context, BaseCallout::DrawOptionAll, Rect(), -1, nullptr);

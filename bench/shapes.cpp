@@ -49,7 +49,7 @@ void drawWithCairo(benchmark::State &state, Factory make) {
         if (oval) {
             cairo_save(cr);
             cairo_scale(cr, kBox.Width() / 2, kBox.Height() / 2);
-            cairo_arc(cr, 0, 0, 1, 0, 2 * M_PI);
+            cairo_arc(cr, 0, 0, 1, 0, 2 * kPi);
             cairo_restore(cr);
         } else {
             for (Point const &p : outline.points)

@@ -26,14 +26,14 @@ Polygon star(int n, double cx, double cy, unsigned seed) {
     std::uniform_real_distribution<double> radius(150, 250);
     Polygon p;
     for (int i = 0; i < n; ++i)
-        p.points.push_back(Point(cx, cy) + Point::FromAngle(2 * M_PI * i / n) * radius(rng));
+        p.points.push_back(Point(cx, cy) + Point::FromAngle(2 * kPi * i / n) * radius(rng));
     return p;
 }
 
 Polygon circle(int n, double cx, double cy, double r) {
     Polygon p;
     for (int i = 0; i < n; ++i)
-        p.points.push_back(Point(cx, cy) + Point::FromAngle(2 * M_PI * i / n) * r);
+        p.points.push_back(Point(cx, cy) + Point::FromAngle(2 * kPi * i / n) * r);
     return p;
 }
 

@@ -1,5 +1,5 @@
 // The cairo context's operations on a Path: the path replays itself here.
-#include "CrossPlatformDrawingContextImpl.h"
+#include "drawing/CrossPlatformDrawingContextImpl.h"
 
 #include <vantrel/geometry/Path.h>
 

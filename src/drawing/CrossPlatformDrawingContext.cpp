@@ -1,4 +1,4 @@
-#include "CrossPlatformDrawingContextImpl.h"
+#include "drawing/CrossPlatformDrawingContextImpl.h"
 
 #include <algorithm>
 #include <cmath>
@@ -78,7 +78,7 @@ using namespace CairoUtil;
 
 namespace {
 
-double const kTwoPi = 6.283185307179586;
+double const kTwoPi = 2 * kPi;
 
 bool finite(Point const &p) { return std::isfinite(p.x) && std::isfinite(p.y); }
 

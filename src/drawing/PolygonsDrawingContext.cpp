@@ -1,4 +1,4 @@
-#include "PolygonsDrawingContext.h"
+#include "drawing/PolygonsDrawingContext.h"
 
 #include <vantrel/drawing/CrossPlatformDrawingContext.h>
 #include <vantrel/geometry/Path.h>

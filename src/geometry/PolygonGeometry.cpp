@@ -8,7 +8,6 @@ namespace Vantrel {
 
 namespace {
 
-double const kPi = 3.141592653589793;
 double const kSagitta = 0.1;
 
 // Half the angle of one arc segment of radius r: its sagitta is 0.1, and no

@@ -1,7 +1,7 @@
 // The union of outlines, on the clipping engine.
 #include <vantrel/values/Polygon.h>
 
-#include "gpc.h"
+#include "geometry/gpc.h"
 
 #include <cstddef>
 #include <type_traits>

@@ -4,7 +4,7 @@
 // of x. At each height and each crossing of two edges the four quadrants
 // around the point are classified as inside or outside the result, and the
 // class decides how output contours start, grow at either end, and merge.
-#include "gpc.h"
+#include "geometry/gpc.h"
 
 #include <algorithm>
 #include <cfloat>

@@ -1,4 +1,4 @@
-#include "FontFolders.h"
+#include "platform/FontFolders.h"
 
 #include <cstdio>
 #include <cstdlib>

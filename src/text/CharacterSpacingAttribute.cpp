@@ -1,4 +1,4 @@
-#include "CharacterSpacingAttribute.h"
+#include "text/CharacterSpacingAttribute.h"
 
 #include <mutex>
 

@@ -1,11 +1,11 @@
 // The cairo context's text operations: the text, the selection or caret, the
 // misspelling marks, and four plain layout operations.
-#include "../drawing/BoundsFinder.h"
-#include "../drawing/CrossPlatformDrawingContextImpl.h"
-#include "TextLayout.h"
+#include "drawing/BoundsFinder.h"
+#include "drawing/CrossPlatformDrawingContextImpl.h"
+#include "text/TextLayout.h"
 #include "values/Rounding.h"
 
-#include <vantrel/callouts/BaseCallout.h>
+#include <vantrel/callouts/frame/BaseCallout.h>
 #include <vantrel/text/UTF8StringUtil.h>
 
 #include <algorithm>

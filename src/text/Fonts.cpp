@@ -1,4 +1,4 @@
-#include "Fonts.h"
+#include "text/Fonts.h"
 
 #include "platform/FontFolders.h"
 

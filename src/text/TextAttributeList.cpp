@@ -1,6 +1,6 @@
 #include <vantrel/text/TextAttributeList.h>
 
-#include "CharacterSpacingAttribute.h"
+#include "text/CharacterSpacingAttribute.h"
 #include "values/Rounding.h"
 
 #include <algorithm>
@@ -148,7 +148,7 @@ void TextAttributeList::addFontNameAttribute(Range const &range, std::string con
 }
 
 void TextAttributeList::addFontSizeAttribute(Range const &range, double points) {
-    change(pango_attr_size_new(saturatingInt(points * 1024.0)), range);
+    change(pango_attr_size_new(saturatingInt(points * PANGO_SCALE)), range);
 }
 
 void TextAttributeList::addFontWeightAttribute(Range const &range, int weight) {
@@ -298,9 +298,9 @@ void TextAttributeList::applyCharacterSpacing() {
         for (PangoAttribute *c : spacings) {
             if (!(c->start_index <= s->end_index && c->end_index >= s->start_index))
                 continue;
-            int points = reinterpret_cast<PangoAttrSize *>(s)->size / 1024;
+            int points = reinterpret_cast<PangoAttrSize *>(s)->size / PANGO_SCALE;
             PangoAttribute *letterSpacing =
-                pango_attr_letter_spacing_new(saturatingInt(points * characterSpacingValue(c) * 1024.0));
+                pango_attr_letter_spacing_new(saturatingInt(points * characterSpacingValue(c) * PANGO_SCALE));
             letterSpacing->start_index = std::max(c->start_index, s->start_index);
             letterSpacing->end_index = std::min(c->end_index, s->end_index);
             pango_attr_list_insert(attrList->list, letterSpacing);
@@ -322,7 +322,7 @@ Range TextAttributeList::rangeOfPangoAttribute(PangoAttribute const *attribute) 
 template <> int TextAttributeList::valueOfPangoAttribute<int>(PangoAttribute const *attribute) {
     switch (attributeType(attribute)) {
     case PANGO_ATTR_SIZE:
-        return reinterpret_cast<PangoAttrSize const *>(attribute)->size / 1024;
+        return reinterpret_cast<PangoAttrSize const *>(attribute)->size / PANGO_SCALE;
     case PANGO_ATTR_STYLE:
     case PANGO_ATTR_WEIGHT:
     case PANGO_ATTR_VARIANT:

@@ -1,6 +1,6 @@
-#include "TextLayout.h"
+#include "text/TextLayout.h"
 
-#include "Fonts.h"
+#include "text/Fonts.h"
 
 #include <vantrel/drawing/CrossPlatformDrawingContext.h>
 #include <vantrel/text/UTF8StringUtil.h>
@@ -69,7 +69,7 @@ double maximumFontSize(TextAttributeList const &attributes) {
     double largest = 0.0;
     for (auto const &run : attributes.attributeRuns())
         if (TextAttributeList::typeOfPangoAttribute(run->attribute()) == TextAttributeList::FontSize)
-            largest = std::fmax(largest, reinterpret_cast<PangoAttrSize *>(run->attribute())->size * 0.0009765625);
+            largest = std::fmax(largest, pango_units_to_double(reinterpret_cast<PangoAttrSize *>(run->attribute())->size));
     return largest;
 }
 
@@ -125,7 +125,7 @@ PangoLayout *buildTextLayout(TextCalloutProperties const &properties, TextAttrib
     pango_layout_set_width(layout, units(wholePixelWidth(box)));
     pango_layout_set_height(layout, unlimitedHeight ? kUnlimited : units(wholePixelHeight(box)));
     pango_layout_set_alignment(layout, pangoAlignment(properties.horizontalAlignment));
-    pango_layout_set_spacing(layout, saturatingInt(maximumFontSize(attributes) * properties.verticalSpace * 1024.0));
+    pango_layout_set_spacing(layout, saturatingInt(maximumFontSize(attributes) * properties.verticalSpace * PANGO_SCALE));
 
     TextAttributeList prepared = prepareAttributesForLayout(attributes, properties);
     pango_layout_set_attributes(layout, prepared.pangoAttrList());

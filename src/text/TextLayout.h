@@ -13,7 +13,7 @@
 #include <vantrel/text/TextCalloutProperties.h>
 
 #include <cairo.h>
-#include <cstdint>
+#include <cmath>
 #include <mutex>
 #include <pango/pangocairo.h>
 
@@ -48,9 +48,10 @@ double verticalTextOffset(TextVerticalAlignment alignment, PangoLayout *layout, 
 // box centre, the box's rounded origin, then the alignment offsets.
 void textLayoutMatrix(TextCalloutProperties const &properties, cairo_matrix_t *matrix, PangoLayout *layout);
 
-// Pango units to whole pixels, halves up, in 64 bits: a layout may be close
-// to the largest int wide, and the half pixel added must not overflow.
-inline int roundedPixels(int units) { return int((int64_t(units) + 512) >> 10); }
+// Pango units to whole pixels, halves up, as PANGO_PIXELS rounds, but in
+// double: a layout may be close to the largest int wide, and PANGO_PIXELS
+// would overflow adding its half pixel.
+inline int roundedPixels(int units) { return int(std::floor(pango_units_to_double(units) + 0.5)); }
 
 // The box's whole-pixel size (floor) and rounded origin.
 int wholePixelWidth(Rect const &r);

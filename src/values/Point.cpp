@@ -1,6 +1,6 @@
 #include <vantrel/values/Point.h>
 
-#include "Rounding.h"
+#include "values/Rounding.h"
 
 #include <cmath>
 #include <ostream>

@@ -1,6 +1,6 @@
 #include <vantrel/values/Rect.h>
 
-#include "Rounding.h"
+#include "values/Rounding.h"
 
 #include <algorithm>
 #include <cfloat>

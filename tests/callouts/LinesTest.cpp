@@ -1,8 +1,8 @@
 #include "support/CalloutChecks.h"
 
-#include "callouts/ArrowGeometry.h"
-#include "callouts/EndCaps.h"
-#include "callouts/Shafts.h"
+#include "callouts/lines/ArrowGeometry.h"
+#include "callouts/lines/EndCaps.h"
+#include "callouts/lines/Shafts.h"
 
 #include <gtest/gtest.h>
 
@@ -103,29 +103,29 @@ TEST(Shafts, OutlinesOfEachKind) {
 }
 
 TEST(EndCaps, OutlinesAndInsets) {
-    EXPECT_TRUE(makeEndCap(0, 10)->outline().points.empty());
-    EXPECT_EQ(makeEndCap(0, 10)->shaftInset(true), 0);
-    EXPECT_EQ(makeEndCap(1, 10)->shaftInset(true), 5);
-    EXPECT_EQ(makeEndCap(1, 10)->shaftInset(false), 10);
-    Rect circle = makeEndCap(2, 10)->outline().BoundingRect();
+    EXPECT_TRUE(makeEndCap(EndCapKind::None, 10)->outline().points.empty());
+    EXPECT_EQ(makeEndCap(EndCapKind::None, 10)->shaftInset(true), 0);
+    EXPECT_EQ(makeEndCap(EndCapKind::Dot, 10)->shaftInset(true), 5);
+    EXPECT_EQ(makeEndCap(EndCapKind::Dot, 10)->shaftInset(false), 10);
+    Rect circle = makeEndCap(EndCapKind::Circle, 10)->outline().BoundingRect();
     EXPECT_NEAR(circle.Left(), 0, 1e-9);
     EXPECT_NEAR(circle.Right(), 10, 1e-9);
-    EXPECT_TRUE(makeEndCap(1, 0)->outline().points.empty());
-    EXPECT_EQ(makeEndCap(13, 20)->outline().points,
+    EXPECT_TRUE(makeEndCap(EndCapKind::Dot, 0)->outline().points.empty());
+    EXPECT_EQ(makeEndCap(EndCapKind::UrbanDiamond, 20)->outline().points,
               (std::vector<Point>{Point(0, 0), Point(10, 10), Point(20, 0), Point(10, -10)}));
-    Polygon rounded = makeEndCap(3, 20)->outline(); // radius 1
+    Polygon rounded = makeEndCap(EndCapKind::BasicDiamond, 20)->outline(); // radius 1
     EXPECT_GT(rounded.points.size(), 4u);
     EXPECT_NEAR(rounded.BoundingRect().Right(), 20 - (std::sqrt(2.0) - 1), 1e-6);
-    EXPECT_EQ(makeEndCap(5, 10)->outline().points, (std::vector<Point>{Point(0, 0), Point(7, 5), Point(7, -5)}));
-    EXPECT_NEAR(makeEndCap(5, 10)->shaftInset(true), 6.99, 1e-12);
-    EXPECT_NEAR(makeEndCap(6, 10)->shaftInset(true), 3.749, 1e-12);
-    EXPECT_NEAR(makeEndCap(11, 10)->shaftInset(false), 9.999, 1e-12);
-    Rect tail = makeEndCap(10, 10)->outline().BoundingRect();
+    EXPECT_EQ(makeEndCap(EndCapKind::BoldArrow, 10)->outline().points, (std::vector<Point>{Point(0, 0), Point(7, 5), Point(7, -5)}));
+    EXPECT_NEAR(makeEndCap(EndCapKind::BoldArrow, 10)->shaftInset(true), 6.99, 1e-12);
+    EXPECT_NEAR(makeEndCap(EndCapKind::BoldDiamond, 10)->shaftInset(true), 3.749, 1e-12);
+    EXPECT_NEAR(makeEndCap(EndCapKind::Square, 10)->shaftInset(false), 9.999, 1e-12);
+    Rect tail = makeEndCap(EndCapKind::AbstractTail, 10)->outline().BoundingRect();
     EXPECT_LT(tail.Left(), 0); // the swallow tail's back corners lie behind the end
     EXPECT_NEAR(tail.Right(), 16, 0.5);
-    for (int kind = 0; kind <= 13; ++kind)
+    for (int kind = EndCapKind::None; kind <= EndCapKind::UrbanDiamond; ++kind)
         EXPECT_NE(makeEndCap(kind, 8), nullptr) << kind;
-    EXPECT_EQ(makeEndCap(14, 8), nullptr);
+    EXPECT_EQ(makeEndCap(EndCapKind::UrbanDiamond + 1, 8), nullptr);
     EXPECT_EQ(makeEndCap(-1, 8), nullptr);
 }
 
@@ -288,37 +288,37 @@ TEST(Presets, LineTables) {
 
     std::unique_ptr<LineWithCaps> dots(Presets::createLine(Presets::ThemeBasic, kInk, 8, a, b, Presets::LineShaftDotted,
                                                            Presets::LineEndCapDot, Presets::LineEndCapDot));
-    EXPECT_EQ(dots->startCap.kind, 0);
-    EXPECT_EQ(dots->endCap.kind, 0);
+    EXPECT_EQ(dots->startCap.kind, EndCapKind::None);
+    EXPECT_EQ(dots->endCap.kind, EndCapKind::None);
     EXPECT_FALSE(dots->startCap.joined);
 
     std::unique_ptr<LineWithCaps> urbanCircle(Presets::createLine(Presets::ThemeUrban, kInk, 8, a, b,
                                                                   Presets::LineShaftSolid, Presets::LineEndCapCircle,
                                                                   Presets::LineEndCapNone));
-    EXPECT_EQ(urbanCircle->startCap.kind, 0);
+    EXPECT_EQ(urbanCircle->startCap.kind, EndCapKind::None);
     std::unique_ptr<LineWithCaps> boldDashed(Presets::createLine(Presets::ThemeBold, kInk, 8, a, b,
                                                                  Presets::LineShaftDashed, Presets::LineEndCapCircle,
                                                                  Presets::LineEndCapArrow));
-    EXPECT_EQ(boldDashed->startCap.kind, 0);
+    EXPECT_EQ(boldDashed->startCap.kind, EndCapKind::None);
     EXPECT_TRUE(boldDashed->startCap.joined);
     EXPECT_FALSE(boldDashed->endCap.joined);
     std::unique_ptr<LineWithCaps> abstract(Presets::createLine(Presets::ThemeAbstract, kInk, 8, a, b,
                                                                Presets::LineShaftSolid, Presets::LineEndCapNone,
                                                                Presets::LineEndCapNone));
-    EXPECT_EQ(abstract->shaft.kind, 7);
+    EXPECT_EQ(abstract->shaft.kind, ShaftKind::Bar);
     EXPECT_EQ(abstract->shaft.roundedEnds, 3);
     std::unique_ptr<LineWithCaps> modern(Presets::createLine(Presets::ThemeModern, kInk, 8, a, b,
                                                              Presets::LineShaftDotted, Presets::LineEndCapArrow,
                                                              Presets::LineEndCapDiamond));
     EXPECT_TRUE(modern->shaft.outlineOnly);
-    EXPECT_EQ(modern->shaft.kind, 6);
-    EXPECT_EQ(modern->endCap.kind, 8);
+    EXPECT_EQ(modern->shaft.kind, ShaftKind::ModernDots);
+    EXPECT_EQ(modern->endCap.kind, EndCapKind::ModernDiamond);
     std::unique_ptr<LineWithCaps> unknown(Presets::createLine(Presets::Theme(9), kInk, 8, a, b,
                                                               Presets::LineShaftDashed, Presets::LineEndCapArrow,
                                                               Presets::LineEndCapArrow));
     ASSERT_NE(unknown, nullptr);
-    EXPECT_EQ(unknown->shaft.kind, 0);
-    EXPECT_EQ(unknown->startCap.kind, 0);
+    EXPECT_EQ(unknown->shaft.kind, ShaftKind::Tapered);
+    EXPECT_EQ(unknown->startCap.kind, EndCapKind::None);
     EXPECT_EQ(unknown->shaft.width, 8);
 
     EXPECT_EQ(Presets::createLine(Presets::ThemeModern, kInk, a, b), nullptr);
@@ -382,9 +382,9 @@ TEST(LineWithCaps, OnlyPiecesThatTouchACapAreUnited) {
 
     // The dashed line that once took 10,000 dashes through the union at every draw.
     LineWithCaps line(kInk);
-    line.startCap = LineEnd{6, Point(-20, 0), true, 7e-15};
-    line.endCap = LineEnd{9, Point(20, 7), true, 7e-15};
-    line.shaft.kind = 10;
+    line.startCap = LineEnd{EndCapKind::BoldDiamond, Point(-20, 0), true, 7e-15};
+    line.endCap = LineEnd{EndCapKind::AbstractArrow, Point(20, 7), true, 7e-15};
+    line.shaft.kind = ShaftKind::UrbanLongDashes;
     line.shaft.width = 7e-15;
     Polygons outline = line.pathAsPolygons(Rect());
     EXPECT_LE(outline.polygons.size(), size_t(kMaxShaftPieces) + 2);

@@ -73,7 +73,7 @@ TEST(Shapes, TriangleIsInscribedInItsRect) {
 
 TEST(Shapes, OctagonIsCentredOnTheOriginWithVerticalSides) {
     for (Rect r : {Rect(-50, -50, 50, 50), Rect(100, 100, 200, 200)}) {
-        RegularPolygonShape octagon(kFill, "solid", Point(0, 1), kInk, 0, "solid", 8, -M_PI / 8, 0, r);
+        RegularPolygonShape octagon(kFill, "solid", Point(0, 1), kInk, 0, "solid", 8, -kPi / 8, 0, r);
         Polygon p = firstOutline(octagon);
         ASSERT_EQ(p.points.size(), 8u);
         expectPoint(p.points[0], 50, 20.710678118654755);
@@ -94,8 +94,8 @@ TEST(Shapes, StarVertices) {
     Polygon p = firstOutline(star);
     ASSERT_EQ(p.points.size(), 10u);
     expectPoint(p.points[0], 0, -50);
-    expectPoint(p.points[1], 25 * std::cos(0.7 * M_PI), -25 * std::sin(0.7 * M_PI));
-    expectPoint(p.points[2], 50 * std::cos(0.9 * M_PI), -50 * std::sin(0.9 * M_PI));
+    expectPoint(p.points[1], 25 * std::cos(0.7 * kPi), -25 * std::sin(0.7 * kPi));
+    expectPoint(p.points[2], 50 * std::cos(0.9 * kPi), -50 * std::sin(0.9 * kPi));
     // Inner and outer vertices alternate: the star runs counter-clockwise on screen.
     for (size_t i = 0; i < 10; ++i)
         EXPECT_NEAR(p.points[i].Length(), i % 2 ? 25 : 50, 1e-9) << i;
@@ -144,7 +144,7 @@ TEST(Shapes, OddCountsAndSizesHaveDefinedResults) {
     for (Rect r : {Rect(), Rect(0, 0, nan, 5), Rect(-1e300, -1e300, 1e300, 1e300), Rect(-1e15, 0, 1e15, 1),
                    Rect(5, 5, -5, -5)}) {
         for (double sides : {3.0, 8.0, 0.5, 1e9}) {
-            RegularPolygonShape poly(kFill, "gradient", Point(0, 0), kInk, 3, "dot", sides, M_PI / 2, 1e15, r);
+            RegularPolygonShape poly(kFill, "gradient", Point(0, 0), kInk, 3, "dot", sides, kPi / 2, 1e15, r);
             poly.drawIntoContext(&canvas.context, BaseCallout::DrawOptionAll, Rect(), -1, nullptr);
             poly.boundingRect();
         }

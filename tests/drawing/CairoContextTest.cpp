@@ -135,7 +135,7 @@ TEST(CairoContext, StrokedPolygonsUseTheWideMiterLimit) {
     // A 3 degree corner: its miter reaches 1/sin(1.5 deg) = 38 half-widths out,
     // far beyond cairo's default limit of 10.
     Canvas canvas(200, 60);
-    double const half = 3.0 * M_PI / 180.0 / 2.0;
+    double const half = 3.0 * kPi / 180.0 / 2.0;
     Point tip(40, 30.5);
     Polygon sharp({Point(150, 30.5 - 110 * std::tan(half)), tip, Point(150, 30.5 + 110 * std::tan(half))});
     canvas.context.Stroke(kRed, 2, "solid", sharp);
@@ -157,7 +157,7 @@ TEST(CairoContext, EllipsesArcsAndFlattening) {
     Canvas rotated(100, 100);
     DrawingContext &r = rotated.context;
     r.StartPath();
-    r.AddArcToCurrentPath(Point(50, 50), Point(30, 30), Point(-5, 5), 0, 2 * M_PI);
+    r.AddArcToCurrentPath(Point(50, 50), Point(30, 30), Point(-5, 5), 0, 2 * kPi);
     r.FillCurrentPath(kRed);
     EXPECT_EQ(rotated.at(75, 75), kOpaqueRed);
     EXPECT_EQ(rotated.at(75, 25), 0u);
@@ -173,7 +173,7 @@ TEST(CairoContext, EllipsesArcsAndFlattening) {
     EXPECT_EQ(flat.points, (std::vector<Point>{Point(0, 0), Point(10, 0), Point(10, 5), Point(20, 20), Point(30, 20)}));
     EXPECT_EQ(r.CurrentPointInPath(), Point(30, 20));
     r.StartPath();
-    r.AddArcToCurrentPath(Point(0, 0), 10, 10, 0, M_PI);
+    r.AddArcToCurrentPath(Point(0, 0), 10, 10, 0, kPi);
     Polygon arc = r.FlattenedPath();
     ASSERT_GT(arc.points.size(), 4u);
     EXPECT_NEAR(arc.points.front().x, 10, 1e-9);

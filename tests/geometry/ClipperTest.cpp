@@ -100,7 +100,7 @@ Contour starContour(std::mt19937 &rng, int n, double cx, double cy) {
     std::uniform_real_distribution<double> radius(10, 45);
     Contour c;
     for (int i = 0; i < n; ++i) {
-        double a = 2 * M_PI * i / n, r = radius(rng);
+        double a = 2 * kPi * i / n, r = radius(rng);
         c.push_back({cx + r * std::cos(a), cy + r * std::sin(a)});
     }
     return c;

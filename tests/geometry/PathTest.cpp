@@ -37,7 +37,7 @@ TEST(Path, StepsReplayInOrderAndArcsJoinWithALine) {
     CrossPlatformDrawingContext recording(nullptr);
     Path p;
     p.AddPoint(Point(0, 0));
-    p.AddArc(Point(20, 0), 10, M_PI, 2 * M_PI); // starts at (10, 0), over the top to (30, 0)
+    p.AddArc(Point(20, 0), 10, kPi, 2 * kPi); // starts at (10, 0), over the top to (30, 0)
     p.AddCurve(Point(30, 10), Point(0, 10), Point(0, 0));
     EXPECT_EQ(p.NumSteps(), 3);
     Polygon flat = p.Flattened(&recording);
@@ -49,7 +49,7 @@ TEST(Path, StepsReplayInOrderAndArcsJoinWithALine) {
     EXPECT_GT(bounds.Bottom(), 7); // the curve bulges down to 7.5
 
     Path full;
-    full.AddArc(Point(0, 0), 5, 0, 2 * M_PI);
+    full.AddArc(Point(0, 0), 5, 0, 2 * kPi);
     EXPECT_EQ(full.NumSteps(), 1);
     EXPECT_GT(full.Flattened(&recording).points.size(), 8u);
 }
@@ -57,7 +57,7 @@ TEST(Path, StepsReplayInOrderAndArcsJoinWithALine) {
 TEST(Path, TransformCarriesTheLinearPartIntoArcs) {
     CrossPlatformDrawingContext recording(nullptr);
     Path arc;
-    arc.AddArc(Point(0, 0), 10, 0, M_PI / 2); // (10, 0) to (0, 10)
+    arc.AddArc(Point(0, 0), 10, 0, kPi / 2); // (10, 0) to (0, 10)
     Path scaled = arc;
     scaled.Transform(Matrix3x3::Scale(2, 1));
     Polygon s = scaled.Flattened(&recording);

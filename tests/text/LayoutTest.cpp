@@ -62,7 +62,7 @@ TEST_F(TextTest, SpacingAndPreparedAttributes) {
     p.verticalSpace = 0.5;
     std::lock_guard<std::mutex> guard(layoutLock());
     PangoLayout *layout = layoutOf(p, a, true);
-    EXPECT_EQ(pango_layout_get_spacing(layout), 10240);
+    EXPECT_EQ(pango_layout_get_spacing(layout), 10 * PANGO_SCALE);
     g_object_unref(layout);
     // Attributes that reach the end of the text cover one byte more; the source list stays as it was.
     TextAttributeList prepared = prepareAttributesForLayout(a, p);
@@ -106,7 +106,7 @@ TEST_F(TextTest, FitSearch) {
     // Applying a scale floors in pango units, on a copy.
     TextAttributeList sizes;
     sizes.addFontSizeAttribute(Range(0, 2), 12);
-    sizes.addFontSizeAttribute(Range(2, 4), 12801 / 1024.0);
+    sizes.addFontSizeAttribute(Range(2, 4), 12801.0 / PANGO_SCALE);
     TextAttributeList scaled = CrossPlatformDrawingContext::textAttributeListByApplyingFontScale(sizes, 0.703125);
     std::vector<int> values;
     for (PangoAttribute *attribute : scaled.pangoAttributes())

@@ -59,7 +59,7 @@ Polygon starPolygon(double outer, double inner, int points) {
     Polygon star;
     for (int i = 0; i < 2 * points; ++i) {
         double r = i % 2 ? inner : outer;
-        star.points.push_back(Point::FromAngle(-M_PI / 2 + M_PI * i / points) * r);
+        star.points.push_back(Point::FromAngle(-kPi / 2 + kPi * i / points) * r);
     }
     return star;
 }
@@ -75,7 +75,7 @@ void drawMeasurements(CrossPlatformDrawingContext &c, BaseCallout const &callout
 // A keyhole: an arc, two lines and a curve, as one contour.
 Path keyhole() {
     Path p;
-    p.AddArc(Point(0, -15), 22, M_PI * 0.65, M_PI * 2.35);
+    p.AddArc(Point(0, -15), 22, kPi * 0.65, kPi * 2.35);
     p.AddPoint(Point(18, 35));
     p.AddCurve(Point(6, 45), Point(-6, 45), Point(-18, 35));
     return p;
@@ -90,7 +90,7 @@ void addPathSections(std::vector<Section> &all) {
                         c.StrokePath(kInk, 3, style, p, LineCapRound, LineJoinRound, true);
                     }};
     };
-    double const a = M_PI / 6;
+    double const a = kPi / 6;
     Matrix3x3 rotation(std::cos(a), -std::sin(a), 0, std::sin(a), std::cos(a), 0, 0, 0, 1);
     Matrix3x3 shear(1, 0.6, 0, 0, 1, 0, 0, 0, 1);
     all.push_back(

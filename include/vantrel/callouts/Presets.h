@@ -2,8 +2,8 @@
 // that the caller owns, or null where the theme has no such callout.
 #pragma once
 
-#include <vantrel/callouts/BaseCallout.h>
-#include <vantrel/callouts/LineWithCaps.h>
+#include <vantrel/callouts/frame/BaseCallout.h>
+#include <vantrel/callouts/lines/LineWithCaps.h>
 
 #include <string>
 

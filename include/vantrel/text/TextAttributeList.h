@@ -85,7 +85,7 @@ public:
     // is not stored.
     void addFGColorAttribute(Range const &range, Color const &color);
     void addFontNameAttribute(Range const &range, std::string const &family);
-    // Points, stored as 1024ths, truncated.
+    // Points, stored in pango units (PANGO_SCALE to a point), truncated.
     void addFontSizeAttribute(Range const &range, double points);
     void addFontWeightAttribute(Range const &range, int weight);
     void addFontItalicAttribute(Range const &range, int italic);

@@ -2,13 +2,14 @@
 // into one outline at every drawing.
 #pragma once
 
-#include <vantrel/callouts/BaseCallout.h>
+#include <vantrel/callouts/frame/BaseCallout.h>
+#include <vantrel/callouts/lines/LineKinds.h>
 
 namespace Vantrel {
 
 // One end of a LineWithCaps.
 struct LineEnd {
-    int kind = 0;       // an end cap kind, 0 to 13; any other draws nothing
+    int kind = EndCapKind::None; // an EndCapKind; any other number draws nothing
     Point position;     // where the line ends
     bool joined = true; // the shaft runs on into the cap (else it stands off)
     double size = 0;    // the cap's scale
@@ -16,12 +17,10 @@ struct LineEnd {
 
 // The shaft of a LineWithCaps.
 struct ShaftSpec {
-    // 0 tapered bar; 1, 6, 9 dots; 2 to 5, 8, 10, 11 dashes; 7 a solid bar
-    // with optionally rounded ends.
-    int kind = 0;
+    int kind = ShaftKind::Tapered; // a ShaftKind; any other number is the tapered bar
     double width = 0;
     double endWidth = 0;  // width at the far end, tapered kind only
-    int roundedEnds = 0;  // bit 1 rounds the start, bit 2 the end (kinds 7 and 8)
+    int roundedEnds = 0;  // bit 1 rounds the start, bit 2 the end (Bar and AbstractDashDotDot)
     double fadeStart = 0; // a faded stretch, as fractions of the shaft's length;
     double fadeEnd = 0;   // none unless fadeEnd is above fadeStart
     Color fadeColor;

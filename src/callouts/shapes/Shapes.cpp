@@ -1,6 +1,6 @@
-#include <vantrel/callouts/Shapes.h>
+#include <vantrel/callouts/shapes/Shapes.h>
 
-#include "Painting.h"
+#include "callouts/frame/Painting.h"
 
 #include <cmath>
 
@@ -88,7 +88,7 @@ Polygon RegularPolygonShape::regularPolygon() const {
     double const zeroWidthRadiusY = (h * 0.5) / std::cos(rotation);
     double const count = std::fmin(sides, double(kMaxSides));
     for (int i = 0; i < count && sides == sides; ++i) { // no vertex for a NaN count
-        double a = (i * M_PI * 2) / count + rotation;
+        double a = (i * kPi * 2) / count + rotation;
         double y = w != 0.0 ? -std::sin(a) * r * (h / w) : -std::sin(a) * zeroWidthRadiusY;
         polygon.points.push_back(Point(std::cos(a) * r, y));
     }

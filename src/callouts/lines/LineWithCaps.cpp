@@ -1,7 +1,7 @@
-#include <vantrel/callouts/LineWithCaps.h>
+#include <vantrel/callouts/lines/LineWithCaps.h>
 
-#include "EndCaps.h"
-#include "Shafts.h"
+#include "callouts/lines/EndCaps.h"
+#include "callouts/lines/Shafts.h"
 
 #include <vantrel/values/Matrix3x3.h>
 

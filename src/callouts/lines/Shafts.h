@@ -3,7 +3,7 @@
 // a whole number of repeats fills the length.
 #pragma once
 
-#include <vantrel/callouts/LineWithCaps.h>
+#include <vantrel/callouts/lines/LineWithCaps.h>
 #include <vantrel/values/Polygon.h>
 
 #include <boost/shared_ptr.hpp>

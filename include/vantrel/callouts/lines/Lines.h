@@ -2,7 +2,7 @@
 // built once from two points.
 #pragma once
 
-#include <vantrel/callouts/BaseCallout.h>
+#include <vantrel/callouts/frame/BaseCallout.h>
 
 #include <string>
 

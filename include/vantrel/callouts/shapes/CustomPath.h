@@ -1,7 +1,7 @@
 // A host's own open polyline, in units that a size stretches on drawing.
 #pragma once
 
-#include <vantrel/callouts/BaseCallout.h>
+#include <vantrel/callouts/frame/BaseCallout.h>
 
 #include <string>
 #include <vector>

@@ -1,4 +1,4 @@
-#include "EndCaps.h"
+#include "callouts/lines/EndCaps.h"
 
 #include <vantrel/values/Matrix3x3.h>
 
@@ -54,31 +54,31 @@ Polygon AbstractTail::outline() const {
 
 boost::shared_ptr<EndCap> makeEndCap(int kind, double size) {
     switch (kind) {
-    case 0:
+    case EndCapKind::None:
         return boost::shared_ptr<EndCap>(new NullEndCap(size));
-    case 1:
-    case 2:
+    case EndCapKind::Dot:
+    case EndCapKind::Circle:
         return boost::shared_ptr<EndCap>(new CircleEndCap(size));
-    case 3:
-    case 8:
+    case EndCapKind::BasicDiamond:
+    case EndCapKind::ModernDiamond:
         return boost::shared_ptr<EndCap>(new BasicDiamondEndCap(size, 0.05));
-    case 4:
+    case EndCapKind::BasicArrow:
         return boost::shared_ptr<EndCap>(new BasicArrowHead(size));
-    case 5:
+    case EndCapKind::BoldArrow:
         return boost::shared_ptr<EndCap>(new BoldArrowHead(size));
-    case 6:
+    case EndCapKind::BoldDiamond:
         return boost::shared_ptr<EndCap>(new BoldDiamondEndCap(size));
-    case 7:
+    case EndCapKind::ModernArrow:
         return boost::shared_ptr<EndCap>(new ModernArrowHead(size));
-    case 9:
+    case EndCapKind::AbstractArrow:
         return boost::shared_ptr<EndCap>(new AbstractArrowHead(size));
-    case 10:
+    case EndCapKind::AbstractTail:
         return boost::shared_ptr<EndCap>(new AbstractTail(size));
-    case 11:
+    case EndCapKind::Square:
         return boost::shared_ptr<EndCap>(new SquareEndCap(size));
-    case 12:
+    case EndCapKind::UrbanArrow:
         return boost::shared_ptr<EndCap>(new UrbanArrowHead(size));
-    case 13:
+    case EndCapKind::UrbanDiamond:
         return boost::shared_ptr<EndCap>(new BasicDiamondEndCap(size, 0));
     default:
         return boost::shared_ptr<EndCap>();

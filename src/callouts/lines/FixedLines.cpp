@@ -1,6 +1,6 @@
-#include <vantrel/callouts/Lines.h>
+#include <vantrel/callouts/lines/Lines.h>
 
-#include "ArrowGeometry.h"
+#include "callouts/lines/ArrowGeometry.h"
 
 namespace Vantrel {
 

@@ -1,4 +1,4 @@
-#include <vantrel/callouts/CustomPath.h>
+#include <vantrel/callouts/shapes/CustomPath.h>
 
 #include <cstdlib>
 

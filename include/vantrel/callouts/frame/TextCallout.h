@@ -2,7 +2,7 @@
 // nothing but its text.
 #pragma once
 
-#include <vantrel/callouts/BaseCallout.h>
+#include <vantrel/callouts/frame/BaseCallout.h>
 #include <vantrel/geometry/Path.h>
 #include <vantrel/text/TextAttributeList.h>
 #include <vantrel/text/TextCalloutProperties.h>

@@ -1,4 +1,4 @@
-#include "Shafts.h"
+#include "callouts/lines/Shafts.h"
 
 #include <cmath>
 
@@ -150,35 +150,35 @@ boost::shared_ptr<Shaft> makeShaft(ShaftSpec const &spec, double length, bool le
     };
     auto dashes = [&](std::vector<double> pattern) {
         auto *shaft = new DashShaft(spec.width, length, std::move(pattern), leadingGap, trailingGap);
-        if (spec.kind == 7 || spec.kind == 8) {
+        if (spec.kind == ShaftKind::Bar || spec.kind == ShaftKind::AbstractDashDotDot) {
             shaft->startCornerRatio = spec.roundedEnds & 1 ? 0.3 : 0;
             shaft->endCornerRatio = spec.roundedEnds & 2 ? 0.3 : 0;
         }
         return boost::shared_ptr<Shaft>(shaft);
     };
     switch (spec.kind) {
-    case 1:
-    case 6:
+    case ShaftKind::BasicDots:
+    case ShaftKind::ModernDots:
         return dots(0.5);
-    case 2:
+    case ShaftKind::BasicDashes:
         return dashes({3.2, 1.0});
-    case 3:
+    case ShaftKind::BoldShortDashes:
         return dashes({1.0, 0.4});
-    case 4:
+    case ShaftKind::BoldDashDot:
         return dashes({2.0, 0.4, 1.0, 0.4});
-    case 5:
+    case ShaftKind::ModernDashes:
         return dashes({1.7, 0.75});
-    case 7:
+    case ShaftKind::Bar:
         return dashes({});
-    case 8:
+    case ShaftKind::AbstractDashDotDot:
         return dashes({2.0, 1.0, 1.0, 1.0, 1.0, 1.0});
-    case 9:
+    case ShaftKind::AbstractDots:
         return dots(0.4);
-    case 10:
+    case ShaftKind::UrbanLongDashes:
         return dashes({5.0, 0.5});
-    case 11:
+    case ShaftKind::UrbanShortDashes:
         return dashes({1.0, 1.5});
-    default: // 0, and any kind the table does not name, is the tapered bar
+    default: // Tapered, and any kind the table does not name
         return boost::shared_ptr<Shaft>(new TaperedShaft(spec.width, length, spec.endWidth));
     }
 }

@@ -1,7 +1,7 @@
 // The fill and stroke every filled callout gives its outline.
 #pragma once
 
-#include <vantrel/callouts/BaseCallout.h>
+#include <vantrel/callouts/frame/BaseCallout.h>
 
 namespace Vantrel {
 

@@ -1,4 +1,4 @@
-#include "ArrowGeometry.h"
+#include "callouts/lines/ArrowGeometry.h"
 
 #include <vantrel/values/Matrix3x3.h>
 

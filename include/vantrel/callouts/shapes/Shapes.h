@@ -1,7 +1,7 @@
 // Plain filled shapes: the frame they share and each shape.
 #pragma once
 
-#include <vantrel/callouts/BaseCallout.h>
+#include <vantrel/callouts/frame/BaseCallout.h>
 
 namespace Vantrel {
 

@@ -1,8 +1,8 @@
-#include <vantrel/callouts/BaseCallout.h>
+#include <vantrel/callouts/frame/BaseCallout.h>
 
 #include "drawing/BoundsFinder.h"
 #include "drawing/PolygonsDrawingContext.h"
-#include "Painting.h"
+#include "callouts/frame/Painting.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
-#include <vantrel/callouts/TextCallout.h>
+#include <vantrel/callouts/frame/TextCallout.h>
 
-#include "Painting.h"
+#include "callouts/frame/Painting.h"
 
 namespace Vantrel {
 

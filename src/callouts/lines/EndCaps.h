@@ -4,6 +4,7 @@
 // it takes up.
 #pragma once
 
+#include <vantrel/callouts/lines/LineKinds.h>
 #include <vantrel/values/Polygon.h>
 
 #include <boost/shared_ptr.hpp>
@@ -105,7 +106,7 @@ public:
     double shaftInset(bool joined) const override { return joined ? 1.1 * size : 1.6 * size; }
 };
 
-// The cap of an end cap kind (0 to 13); null for any other kind.
+// The cap of an EndCapKind; null for any other number.
 boost::shared_ptr<EndCap> makeEndCap(int kind, double size);
 
 } // namespace Vantrel
