@@ -12,9 +12,11 @@
 
 #include <vantrel/drawing/CrossPlatformDrawingContext.h>
 #include <vantrel/drawing/DrawingContext.h>
+#include <vantrel/drawing/LineStyles.h>
 
 #include <vantrel/geometry/Path.h>
 
+#include <vantrel/text/DrawOutputMetaData.h>
 #include <vantrel/text/PangoFonts.h>
 #include <vantrel/text/TextAttributeList.h>
 #include <vantrel/text/TextCalloutProperties.h>

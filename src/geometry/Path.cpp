@@ -1,5 +1,7 @@
 #include <vantrel/geometry/Path.h>
 
+#include <vantrel/drawing/DrawingContext.h>
+
 #include <utility>
 
 namespace Vantrel {

@@ -2,6 +2,7 @@
 // interface; painting, measuring and outlining are different implementations.
 #pragma once
 
+#include <vantrel/drawing/LineStyles.h>
 #include <vantrel/values/Bitmap.h>
 #include <vantrel/values/Color.h>
 #include <vantrel/values/Polygon.h>
@@ -21,10 +22,6 @@ class Path;
 class TextCalloutProperties;
 class TextAttributeList;
 struct DrawOutputMetaData;
-
-// Values equal cairo's cairo_line_cap_t and cairo_line_join_t: they are handed over as they are.
-enum LineCapTypes { LineCapButt = 0, LineCapRound = 1, LineCapSquare = 2 };
-enum LineJoinTypes { LineJoinMiter = 0, LineJoinRound = 1, LineJoinBevel = 2 };
 
 // The operations that build and consume a current path.
 class PathDrawingContext {

@@ -2,13 +2,18 @@
 // itself into a drawing context to be filled, stroked or flattened.
 #pragma once
 
-#include <vantrel/drawing/DrawingContext.h>
+#include <vantrel/drawing/LineStyles.h>
+#include <vantrel/values/Color.h>
 #include <vantrel/values/Matrix3x3.h>
+#include <vantrel/values/Polygon.h>
 
 #include <string>
 #include <vector>
 
 namespace Vantrel {
+
+class DrawingContext;
+class PathDrawingContext;
 
 // There are no move or close steps: the first step starts the contour (a
 // line step by moving there, a curve at its first control point, an arc at

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <vantrel/drawing/DrawingContext.h>
+#include <vantrel/text/DrawOutputMetaData.h>
 #include <vantrel/values/Color.h>
 #include <vantrel/values/Polygon.h>
 #include <vantrel/values/Rect.h>
@@ -11,14 +12,6 @@
 #include <vector>
 
 namespace Vantrel {
-
-// Text geometry that DrawTextW reports to a host that asks for it.
-struct DrawOutputMetaData {
-    std::vector<Rect> clusterRects;    // one per cluster, in layout order
-    std::vector<int> clusterBaselines; // one per cluster, in pixels
-    int layoutWidth = 0;
-    int layoutHeight = 0;
-};
 
 // The six style values of every filled callout.
 class CalloutProperties {
