@@ -16,35 +16,26 @@ namespace Vantrel {
 
 namespace {
 
-// Clip to the box, flip about its centre, move to its rounded corner, build
-// the layout, and move by the alignment offset, which is returned. A
-// transparent source stays current: text without a colour attribute paints
-// nothing. The caller holds the layout lock and restores the context.
+// Clip to the box, build the layout and move into its space (flips about the
+// box's centre, its rounded corner, the alignment offsets, which are
+// returned). A transparent source stays current: text without a colour
+// attribute paints nothing. The caller holds the layout lock and restores the
+// context.
 PangoLayout *prepareText(cairo_t *cr, TextCalloutProperties const &properties, TextAttributeList const &attributes,
                          Point *offset) {
     Rect const &r = properties.textRect;
-    double const x = roundedCoordinate(r.Left()), y = roundedCoordinate(r.Top());
     cairo_save(cr);
     cairo_set_source_rgba(cr, 0, 0, 0, 0);
     cairo_paint_with_alpha(cr, 0.0);
-    cairo_rectangle(cr, x, y, wholePixelWidth(r), wholePixelHeight(r));
+    cairo_rectangle(cr, roundedCoordinate(r.Left()), roundedCoordinate(r.Top()), wholePixelWidth(r),
+                    wholePixelHeight(r));
     cairo_clip(cr);
-    Point c = r.Center();
-    cairo_translate(cr, c.x, c.y);
-    if (properties.flipVertically)
-        cairo_scale(cr, 1, -1);
-    if (properties.flipHorizontally)
-        cairo_scale(cr, -1, 1);
-    if (properties.flipBoth)
-        cairo_scale(cr, -1, -1);
-    cairo_translate(cr, -c.x, -c.y);
-    cairo_translate(cr, x, y);
     PangoLayout *layout = buildTextLayout(properties, attributes, properties.resizesText(), 0, true);
     if (layout) {
-        *offset =
-            Point(horizontalTextOffset(properties.horizontalAlignment, layout, wholePixelWidth(r), properties.wordWrap),
-                  verticalTextOffset(properties.verticalAlignment, layout, wholePixelHeight(r)));
-        cairo_translate(cr, offset->x, offset->y);
+        cairo_matrix_t toDrawing;
+        textLayoutMatrix(properties, &toDrawing, layout);
+        cairo_transform(cr, &toDrawing);
+        *offset = textAlignmentOffset(properties, layout);
     }
     return layout;
 }

@@ -359,8 +359,7 @@ template <> Color TextAttributeList::valueOfPangoAttribute<Color>(PangoAttribute
     case PANGO_ATTR_BACKGROUND:
     case PANGO_ATTR_UNDERLINE_COLOR:
     case PANGO_ATTR_STRIKETHROUGH_COLOR: {
-        PangoColor const &c = reinterpret_cast<PangoAttrColor const *>(attribute)->color;
-        return Color(c.red / 65535.0f, c.green / 65535.0f, c.blue / 65535.0f, 1.0f);
+        return Color::FromPango(reinterpret_cast<PangoAttrColor const *>(attribute)->color);
     }
     default:
         throw std::runtime_error("Invalid template parameter");

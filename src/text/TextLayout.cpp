@@ -26,18 +26,6 @@ int wholePixelWidth(Rect const &r) { return r.IntWidth(); }
 int wholePixelHeight(Rect const &r) { return r.IntHeight(); }
 double roundedCoordinate(double v) { return std::round(v); }
 
-TextCalloutProperties::TextCalloutProperties(std::string const &text_, Rect const &textRect_, bool allCaps_,
-                                             bool wordWrap_, bool flipVertically_, bool flipHorizontally_,
-                                             bool flipBoth_, TextHorizontalAlignment horizontalAlignment_,
-                                             TextVerticalAlignment verticalAlignment_, double verticalSpace_,
-                                             std::string const &resizeBehavior_, TextWrapMode wrapMode_,
-                                             bool ligatures_)
-    : text(text_), textRect(textRect_), allCaps(allCaps_), wordWrap(wordWrap_), flipVertically(flipVertically_),
-      flipHorizontally(flipHorizontally_), flipBoth(flipBoth_),
-      isRightToLeft(UTF8StringUtil::isRightToLeftLanguage(text_)), horizontalAlignment(horizontalAlignment_),
-      verticalAlignment(verticalAlignment_), verticalSpace(verticalSpace_), resizeBehavior(resizeBehavior_),
-      wrapMode(wrapMode_), ligatures(ligatures_) {}
-
 namespace {
 
 int const kUnlimited = 0x7fffffff;
@@ -69,7 +57,8 @@ double maximumFontSize(TextAttributeList const &attributes) {
     double largest = 0.0;
     for (auto const &run : attributes.attributeRuns())
         if (TextAttributeList::typeOfPangoAttribute(run->attribute()) == TextAttributeList::FontSize)
-            largest = std::fmax(largest, pango_units_to_double(reinterpret_cast<PangoAttrSize *>(run->attribute())->size));
+            largest =
+                std::fmax(largest, pango_units_to_double(reinterpret_cast<PangoAttrSize *>(run->attribute())->size));
     return largest;
 }
 
@@ -125,7 +114,8 @@ PangoLayout *buildTextLayout(TextCalloutProperties const &properties, TextAttrib
     pango_layout_set_width(layout, units(wholePixelWidth(box)));
     pango_layout_set_height(layout, unlimitedHeight ? kUnlimited : units(wholePixelHeight(box)));
     pango_layout_set_alignment(layout, pangoAlignment(properties.horizontalAlignment));
-    pango_layout_set_spacing(layout, saturatingInt(maximumFontSize(attributes) * properties.verticalSpace * PANGO_SCALE));
+    pango_layout_set_spacing(layout,
+                             saturatingInt(maximumFontSize(attributes) * properties.verticalSpace * PANGO_SCALE));
 
     TextAttributeList prepared = prepareAttributesForLayout(attributes, properties);
     pango_layout_set_attributes(layout, prepared.pangoAttrList());
@@ -209,9 +199,16 @@ double verticalTextOffset(TextVerticalAlignment alignment, PangoLayout *layout, 
     }
 }
 
+Point textAlignmentOffset(TextCalloutProperties const &properties, PangoLayout *layout) {
+    Rect const &r = properties.textRect;
+    return Point(
+        horizontalTextOffset(properties.horizontalAlignment, layout, double(wholePixelWidth(r)), properties.wordWrap),
+        verticalTextOffset(properties.verticalAlignment, layout, double(wholePixelHeight(r))));
+}
+
 void textLayoutMatrix(TextCalloutProperties const &properties, cairo_matrix_t *matrix, PangoLayout *layout) {
     Rect const &r = properties.textRect;
-    Point c = r.Center();
+    Point const c = r.Center();
     cairo_matrix_init_identity(matrix);
     cairo_matrix_translate(matrix, c.x, c.y);
     if (properties.flipVertically)
@@ -221,11 +218,9 @@ void textLayoutMatrix(TextCalloutProperties const &properties, cairo_matrix_t *m
     if (properties.flipBoth)
         cairo_matrix_scale(matrix, -1, -1);
     cairo_matrix_translate(matrix, -c.x, -c.y);
-    cairo_matrix_translate(matrix, double(std::lround(r.Left())), double(std::lround(r.Top())));
-    cairo_matrix_translate(
-        matrix,
-        horizontalTextOffset(properties.horizontalAlignment, layout, double(wholePixelWidth(r)), properties.wordWrap),
-        verticalTextOffset(properties.verticalAlignment, layout, double(wholePixelHeight(r))));
+    cairo_matrix_translate(matrix, roundedCoordinate(r.Left()), roundedCoordinate(r.Top()));
+    Point const offset = textAlignmentOffset(properties, layout);
+    cairo_matrix_translate(matrix, offset.x, offset.y);
 }
 
 // The queries: each builds a layout under the layout lock and releases it there.
@@ -254,35 +249,6 @@ TextAttributeList CrossPlatformDrawingContext::textAttributeListByApplyingFontSc
     TextAttributeList copy(attributes);
     scaleSizes(copy, scale);
     return copy;
-}
-
-int TextCalloutUtil::calculateNumberOfPangoLayoutLines(TextCalloutProperties const &properties,
-                                                       TextAttributeList const &attributes) {
-    std::lock_guard<std::mutex> guard(layoutLock());
-    PangoLayout *layout = buildTextLayout(properties, attributes, true, 0, true);
-    int lines = pango_layout_get_line_count(layout);
-    g_object_unref(layout);
-    return lines;
-}
-
-std::vector<Range> TextCalloutUtil::lineRanges(TextCalloutProperties const &properties,
-                                               TextAttributeList const &attributes) {
-    std::lock_guard<std::mutex> guard(layoutLock());
-    PangoLayout *layout = buildTextLayout(properties, attributes, true, 0, true);
-    std::vector<Range> ranges;
-    PangoLayoutIter *it = pango_layout_get_iter(layout);
-    do {
-        PangoLayoutLine *line = pango_layout_iter_get_line_readonly(it);
-        ranges.push_back(Range(line->start_index, line->start_index + line->length));
-    } while (pango_layout_iter_next_line(it));
-    pango_layout_iter_free(it);
-    g_object_unref(layout);
-    return ranges;
-}
-
-Point TextCalloutUtil::calculateDrawingDimensions(TextCalloutProperties const &properties,
-                                                  TextAttributeList const &attributes) {
-    return CrossPlatformDrawingContext::calculateDrawingDimensions(properties, attributes);
 }
 
 } // namespace Vantrel

@@ -44,8 +44,12 @@ TextAttributeList prepareAttributesForLayout(TextAttributeList const &attributes
 
 double horizontalTextOffset(TextHorizontalAlignment alignment, PangoLayout *layout, double boxWidth, bool wrapped);
 double verticalTextOffset(TextVerticalAlignment alignment, PangoLayout *layout, double boxHeight);
+// Where the layout sits in its box, by the alignments: the offset from the
+// box's rounded origin.
+Point textAlignmentOffset(TextCalloutProperties const &properties, PangoLayout *layout);
 // The transformation from layout space to drawing space: flips about the
-// box centre, the box's rounded origin, then the alignment offsets.
+// box centre, the box's rounded origin, then the alignment offsets. Painting
+// applies it; sprite sheets place their cells by it.
 void textLayoutMatrix(TextCalloutProperties const &properties, cairo_matrix_t *matrix, PangoLayout *layout);
 
 // Pango units to whole pixels, halves up, as PANGO_PIXELS rounds, but in
