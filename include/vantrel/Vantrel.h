@@ -22,10 +22,10 @@
 #include <vantrel/text/TextCalloutProperties.h>
 #include <vantrel/text/UTF8StringUtil.h>
 
+#include <vantrel/callouts/Presets.h>
 #include <vantrel/callouts/frame/BaseCallout.h>
-#include <vantrel/callouts/shapes/CustomPath.h>
+#include <vantrel/callouts/frame/TextCallout.h>
 #include <vantrel/callouts/lines/LineWithCaps.h>
 #include <vantrel/callouts/lines/Lines.h>
-#include <vantrel/callouts/Presets.h>
+#include <vantrel/callouts/shapes/CustomPath.h>
 #include <vantrel/callouts/shapes/Shapes.h>
-#include <vantrel/callouts/frame/TextCallout.h>

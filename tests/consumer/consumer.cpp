@@ -3,9 +3,77 @@
 
 #include <cstdio>
 #include <cstring>
+#include <string>
 #include <vector>
 
 static uint32_t at(std::vector<uint32_t> const &buffer, int width, int x, int row) { return buffer[row * width + x]; }
+
+// Reaches across the public interface, so that a class or function the
+// library failed to export fails this program's link: the factories of each
+// family, the classes hosts name and cast to, text, paths and outlines.
+static int everyFamily() {
+    using namespace Vantrel;
+    int failures = 0;
+    PangoFonts::setLoadFallbackFonts(false);
+    CrossPlatformDrawingContextWithBuiltInBitmap context(200, 120);
+    context.Translate(Point(100, 60));
+    Color const ink(0.2f, 0.3f, 0.8f);
+    std::vector<BaseCallout *> callouts = {
+        Presets::createShapeStar(Presets::ThemeBasic, ink, "gradient", Point(0, 1), Color(0, 0, 0), 2, "dash",
+                                 Rect(-50, -40, 50, 40)),
+        Presets::createShapeRectangle(Presets::ThemeBasic, ink, Color(0, 0, 0), 1, "solid", Rect(-50, -40, 50, 40)),
+        Presets::createLine(Presets::ThemeUrban, ink, Point(-80, 30), Point(80, -30)),
+        Presets::createArrow(Presets::ThemeAbstract, ink, 4, "", Point(-80, 30), "", Point(80, -30), ""),
+        Presets::createLine(Presets::ThemeBold, ink, 6, Point(-80, 30), Point(80, -30), Presets::LineShaftDashed,
+                            Presets::LineEndCapArrow, Presets::LineEndCapBoldDiamond),
+        new CustomPath("-0.5,0 0.5,0.2", Point(100, 60), ink, 3, "dot"),
+    };
+    for (BaseCallout *c : callouts) {
+        if (!c) {
+            ++failures;
+            continue;
+        }
+        c->drawIntoContext(&context, BaseCallout::DrawOptionAll, Rect(), -1, nullptr);
+        failures += c->boundingRect().Width() > 0 ? 0 : 1;
+    }
+    failures += callouts[0]->pathAsPolygons(Rect()).polygons.empty() ? 1 : 0;
+    failures += dynamic_cast<StarShape *>(callouts[0]) ? 0 : 1;
+    failures += dynamic_cast<LineWithCaps *>(callouts[4]) ? 0 : 1;
+    if (RectangleShape *shape = dynamic_cast<RectangleShape *>(callouts[1]))
+        delete shape->clone();
+    else
+        ++failures;
+    for (BaseCallout *c : callouts)
+        delete c;
+
+    std::string const text = "Hello, outside";
+    TextAttributeList attributes;
+    attributes.addFontNameAttribute(Range(0, int(text.size())), "DejaVu Sans");
+    attributes.addFontSizeAttribute(Range(0, int(text.size())), 12);
+    attributes.addFGColorAttribute(Range(0, 5), Color(0, 0, 0));
+    attributes.shiftAllAttributesByOffset(0);
+    for (PangoAttribute *a : attributes.pangoAttributes())
+        if (TextAttributeList::typeOfPangoAttribute(a) == TextAttributeList::FontSize)
+            failures += TextAttributeList::valueOfPangoAttribute<int>(a) == 12 ? 0 : 1;
+    TextCalloutProperties properties;
+    properties.text = text;
+    properties.textRect = Rect(-90, -20, 90, 20);
+    TextCallout callout(properties.textRect, properties, attributes);
+    DrawOutputMetaData metadata;
+    callout.drawIntoContext(&context, BaseCallout::DrawOptionText, Rect(), -1, &metadata);
+    failures += int(metadata.clusterRects.size()) == UTF8StringUtil::length(text) ? 0 : 1;
+    failures += TextCalloutUtil::lineRanges(properties, attributes).empty() ? 1 : 0;
+
+    Path path;
+    path.AddArc(Point(0, 0), 20, 0, kPi);
+    failures += path.Flattened(&context).points.size() > 2 ? 0 : 1;
+    Polygons united = Polygon(Rect(0, 0, 10, 10)).UnionWith(Polygon(Rect(5, 5, 15, 15)));
+    failures += united.polygons.size() == 1 ? 0 : 1;
+    failures += (Matrix3x3::Translation(Point(1, 2)) * Point(0, 0)) == Point(1, 2) ? 0 : 1;
+    if (failures)
+        std::printf("every family: %d failures\n", failures);
+    return failures;
+}
 
 int main() {
     int const width = 40, height = 30;
@@ -26,6 +94,7 @@ int main() {
             ++failures;
         }
     }
+    failures += everyFamily();
     std::printf(failures ? "consumer: FAILED\n" : "consumer: ok\n");
     return failures ? 1 : 0;
 }

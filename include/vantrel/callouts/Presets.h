@@ -2,6 +2,7 @@
 // that the caller owns, or null where the theme has no such callout.
 #pragma once
 
+#include <vantrel/VantrelExport.h>
 #include <vantrel/callouts/frame/BaseCallout.h>
 #include <vantrel/callouts/lines/LineWithCaps.h>
 
@@ -9,7 +10,7 @@
 
 namespace Vantrel {
 
-class Presets {
+class VANTREL_EXPORT Presets {
 public:
     enum Theme { ThemeBasic = 0, ThemeModern = 1, ThemeUrban = 2, ThemeBold = 3, ThemeAbstract = 4 };
     enum LineShaftType { LineShaftSolid = 0, LineShaftDotted = 1, LineShaftDashed = 2 };

@@ -2,6 +2,7 @@
 // unbounded recording surface that measures ink.
 #pragma once
 
+#include <vantrel/VantrelExport.h>
 #include <vantrel/drawing/DrawingContext.h>
 
 #include <boost/shared_ptr.hpp>
@@ -28,7 +29,7 @@ namespace Vantrel {
 //   traced as lines, and a dash that would need more than a million dashes
 //   along one stroke is drawn continuous, so that drawing stays bounded in
 //   time rather than exact.
-class CrossPlatformDrawingContext : public DrawingContext {
+class VANTREL_EXPORT CrossPlatformDrawingContext : public DrawingContext {
 public:
     explicit CrossPlatformDrawingContext(Bitmap *bitmap);
     ~CrossPlatformDrawingContext() override;
@@ -127,7 +128,7 @@ protected:
 
 // A context that owns the Bitmap it draws into. The pixels start
 // uninitialised: clear them before drawing if the background matters.
-class CrossPlatformDrawingContextWithBuiltInBitmap : public CrossPlatformDrawingContext {
+class VANTREL_EXPORT CrossPlatformDrawingContextWithBuiltInBitmap : public CrossPlatformDrawingContext {
 public:
     CrossPlatformDrawingContextWithBuiltInBitmap(int width, int height);
 

@@ -2,6 +2,7 @@
 // interface; painting, measuring and outlining are different implementations.
 #pragma once
 
+#include <vantrel/VantrelExport.h>
 #include <vantrel/drawing/LineStyles.h>
 #include <vantrel/values/Bitmap.h>
 #include <vantrel/values/Color.h>
@@ -24,7 +25,7 @@ class TextAttributeList;
 struct DrawOutputMetaData;
 
 // The operations that build and consume a current path.
-class PathDrawingContext {
+class VANTREL_EXPORT PathDrawingContext {
 public:
     virtual ~PathDrawingContext() = default;
 
@@ -49,7 +50,7 @@ public:
 };
 
 // The whole surface: polygons, ellipses, paths, text, bitmaps and state.
-class DrawingContext : public PathDrawingContext {
+class VANTREL_EXPORT DrawingContext : public PathDrawingContext {
 public:
     // Replaces every pixel inside the clip, alpha included.
     virtual void Clear(Color const &color) = 0;

@@ -2,6 +2,7 @@
 // itself into a drawing context to be filled, stroked or flattened.
 #pragma once
 
+#include <vantrel/VantrelExport.h>
 #include <vantrel/drawing/LineStyles.h>
 #include <vantrel/values/Color.h>
 #include <vantrel/values/Matrix3x3.h>
@@ -18,10 +19,10 @@ class PathDrawingContext;
 // There are no move or close steps: the first step starts the contour (a
 // line step by moving there, a curve at its first control point, an arc at
 // its start), and later arcs join the contour with a straight line.
-class Path {
+class VANTREL_EXPORT Path {
 public:
     // One element of the contour.
-    class Step {
+    class VANTREL_EXPORT Step {
     public:
         virtual ~Step() = default;
         // A heap copy; the caller owns it.

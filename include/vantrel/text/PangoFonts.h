@@ -14,9 +14,11 @@
 // does.
 #pragma once
 
+#include <vantrel/VantrelExport.h>
+
 namespace Vantrel {
 
-class PangoFonts {
+class VANTREL_EXPORT PangoFonts {
 public:
     // Whether every layout first makes sure of the six fallback families
     // ("Arial", "Yu Gothic", "Malgun Gothic", "Microsoft Yahei", "Leelawadee",

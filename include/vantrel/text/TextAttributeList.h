@@ -4,6 +4,7 @@
 // UTF-8 byte offset.
 #pragma once
 
+#include <vantrel/VantrelExport.h>
 #include <vantrel/values/Color.h>
 #include <vantrel/values/Range.h>
 
@@ -19,7 +20,7 @@ typedef struct _PangoAttrList PangoAttrList;
 namespace Vantrel {
 
 // Owns one PangoAttribute, destroyed with its last shared reference.
-class PangoAttributeContainer {
+class VANTREL_EXPORT PangoAttributeContainer {
 public:
     explicit PangoAttributeContainer(PangoAttribute *attribute) : mAttribute(attribute) {}
     ~PangoAttributeContainer();
@@ -45,7 +46,7 @@ private:
 // (start, start + length) that lie at or after 0. Offsets that a shift or an
 // extension would carry below 0 or past the unsigned range stop there. The
 // list handed to pango is always ordered by start, with no start after its end.
-class TextAttributeList {
+class VANTREL_EXPORT TextAttributeList {
 public:
     // pango's PangoAttrType numbers; CustomCharacterSpacing is the number the
     // private "vtl_character_spacing" type was registered under. The type is
@@ -151,7 +152,7 @@ template <class T> T TextAttributeList::valueOfPangoAttribute(PangoAttribute con
 }
 
 // The boolean style flags of hosts and the integers stored in attributes.
-class TextAttributeListHelper {
+class VANTREL_EXPORT TextAttributeListHelper {
 public:
     static int BoldToFontWeight(bool bold) { return bold ? 700 : 400; }
     static bool FontWeightToBold(int weight) { return weight >= 700; }

@@ -2,6 +2,7 @@
 // the library lays out from.
 #pragma once
 
+#include <vantrel/VantrelExport.h>
 #include <vantrel/values/Range.h>
 #include <vantrel/values/Rect.h>
 
@@ -17,7 +18,7 @@ enum TextHorizontalAlignment { Left = 0, Center = 1, Right = 2 };
 enum TextVerticalAlignment { Top = 0, Middle = 1, Bottom = 2 };
 enum TextWrapMode { WrapWord = 0, WrapChar = 1, WrapWordChar = 2 };
 
-class TextCalloutProperties {
+class VANTREL_EXPORT TextCalloutProperties {
 public:
     std::string text; // UTF-8
     // The box: whole-pixel width and height are taken with floor, and the
@@ -51,7 +52,7 @@ public:
 };
 
 // Queries on the layout of a text.
-class TextCalloutUtil {
+class VANTREL_EXPORT TextCalloutUtil {
 public:
     static int calculateNumberOfPangoLayoutLines(TextCalloutProperties const &properties,
                                                  TextAttributeList const &attributes);

@@ -2,6 +2,7 @@
 // (attribute and line ranges) and character offsets (selections, carets).
 #pragma once
 
+#include <vantrel/VantrelExport.h>
 #include <vantrel/values/Range.h>
 
 #include <cstddef>
@@ -12,7 +13,7 @@ namespace Vantrel {
 // None of these reads outside the text: offsets beyond the text count as its
 // end, negative offsets as its start, and a character cut off by the end of
 // the text ends there. Results for offsets inside valid UTF-8 are glib's.
-class UTF8StringUtil {
+class VANTREL_EXPORT UTF8StringUtil {
 public:
     static int byteOffsetFromCharacterOffset(std::string const &text, int characterOffset);
     static int characterOffsetFromByteOffset(std::string const &text, int byteOffset);

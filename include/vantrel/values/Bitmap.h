@@ -2,6 +2,7 @@
 // someone else's memory.
 #pragma once
 
+#include <vantrel/VantrelExport.h>
 #include <vantrel/values/Color.h>
 #include <vantrel/values/Rect.h>
 
@@ -28,7 +29,7 @@ namespace Vantrel {
 // count would not fit in an int is treated like a failed allocation: it ends
 // up with no data and a size of 0 by 0. Every operation here but bufAt()
 // tolerates a Bitmap without data.
-class Bitmap {
+class VANTREL_EXPORT Bitmap {
 public:
     // Owning, contents uninitialised.
     Bitmap(int width, int height);

@@ -1,6 +1,7 @@
 // Colours in floats and in pixel bytes, and the linear gradient description.
 #pragma once
 
+#include <vantrel/VantrelExport.h>
 #include <vantrel/values/Point.h>
 
 #include <cstdint>
@@ -12,7 +13,7 @@ typedef struct _PangoColor PangoColor;
 namespace Vantrel {
 
 // Four floats, not premultiplied and not clamped.
-struct Color {
+struct VANTREL_EXPORT Color {
     float red = 0.0f;
     float green = 0.0f;
     float blue = 0.0f;
@@ -39,7 +40,7 @@ inline bool operator!=(Color const &a, Color const &b) { return !(a == b); }
 // One pixel of a Bitmap: blue, green, red, alpha in memory, which is the
 // little-endian word 0xAARRGGBB. All arithmetic rounds half away from zero and
 // keeps the low 8 bits: nothing saturates.
-struct Color32 {
+struct VANTREL_EXPORT Color32 {
     uint8_t b = 0;
     uint8_t g = 0;
     uint8_t r = 0;
@@ -65,7 +66,7 @@ struct Color32 {
 inline bool operator==(Color32 const &x, Color32 const &y) { return x.packed() == y.packed(); }
 inline bool operator!=(Color32 const &x, Color32 const &y) { return !(x == y); }
 
-struct GradientStop {
+struct VANTREL_EXPORT GradientStop {
     double offset = 0.0;
     Color color;
 
@@ -75,7 +76,7 @@ struct GradientStop {
 
 // A linear gradient from start to end. Stops stay in the order appended and
 // are handed to cairo so; they are neither sorted nor deduplicated.
-struct GradientPattern {
+struct VANTREL_EXPORT GradientPattern {
     Point start;
     Point end;
     std::vector<GradientStop> stops;

@@ -1,6 +1,7 @@
 // The affine transform of points, polygons and paths, as a full 3x3 matrix.
 #pragma once
 
+#include <vantrel/VantrelExport.h>
 #include <vantrel/values/Point.h>
 
 namespace Vantrel {
@@ -11,7 +12,7 @@ struct Polygons;
 // Row-major. Points are column vectors with an implied third coordinate 1;
 // the third row takes part in products and inversion, not in transforming a
 // point (there is no perspective division).
-struct Matrix3x3 {
+struct VANTREL_EXPORT Matrix3x3 {
     double m00 = 1, m01 = 0, m02 = 0;
     double m10 = 0, m11 = 1, m12 = 0;
     double m20 = 0, m21 = 0, m22 = 1;

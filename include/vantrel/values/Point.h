@@ -1,6 +1,8 @@
 // Points in doubles and in ints: the coordinates every other value is made of.
 #pragma once
 
+#include <vantrel/VantrelExport.h>
+
 #include <cstdint>
 #include <iosfwd>
 
@@ -23,7 +25,7 @@ inline bool operator!=(PointInt const &a, PointInt const &b) { return !(a == b);
 
 // A point or vector in doubles. y grows downwards. Nothing here guards a
 // division by zero: the result is then non-finite and the caller avoids it.
-struct Point {
+struct VANTREL_EXPORT Point {
     double x = 0.0;
     double y = 0.0;
 
@@ -63,6 +65,6 @@ inline bool operator==(Point const &a, Point const &b) { return a.x == b.x && a.
 inline bool operator!=(Point const &a, Point const &b) { return !(a == b); }
 
 // Writes "(x,y)" with the stream's current number formatting.
-std::ostream &operator<<(std::ostream &os, Point const &p);
+VANTREL_EXPORT std::ostream &operator<<(std::ostream &os, Point const &p);
 
 } // namespace Vantrel

@@ -1,6 +1,7 @@
 // Closed point lists, the outlines most callouts are made of.
 #pragma once
 
+#include <vantrel/VantrelExport.h>
 #include <vantrel/values/Rect.h>
 
 #include <boost/shared_ptr.hpp>
@@ -14,7 +15,7 @@ namespace Vantrel {
 // Nothing fixes the direction a polygon runs in.
 struct Polygons;
 
-struct Polygon {
+struct VANTREL_EXPORT Polygon {
     std::vector<Point> points;
 
     Polygon() = default;
@@ -73,7 +74,7 @@ struct Polygon {
 
 // A list of outer outlines; there are no holes. Copies share the Polygon
 // objects, so changing a polygon through one copy shows in the other.
-struct Polygons {
+struct VANTREL_EXPORT Polygons {
     std::vector<boost::shared_ptr<Polygon>> polygons;
 
     Polygons() = default;

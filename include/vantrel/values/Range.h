@@ -1,6 +1,8 @@
 // A pair of text offsets: bytes or characters, as the caller says.
 #pragma once
 
+#include <vantrel/VantrelExport.h>
+
 #include <cstdint>
 #include <iosfwd>
 
@@ -8,7 +10,7 @@ namespace Vantrel {
 
 // start and end are stored as given; a reversed range has a negative length.
 // A default Range is (-1, -1), which callers read as "no range".
-class Range {
+class VANTREL_EXPORT Range {
 public:
     Range() = default;
     Range(int32_t start, int32_t end) : mStart(start), mEnd(end) {}
@@ -34,6 +36,6 @@ inline bool operator==(Range const &a, Range const &b) { return a.start() == b.s
 inline bool operator!=(Range const &a, Range const &b) { return !(a == b); }
 
 // Writes "(start,end)".
-std::ostream &operator<<(std::ostream &os, Range const &r);
+VANTREL_EXPORT std::ostream &operator<<(std::ostream &os, Range const &r);
 
 } // namespace Vantrel

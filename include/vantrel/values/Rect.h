@@ -1,6 +1,7 @@
 // Rectangles in doubles (two corners) and in ints (four edges).
 #pragma once
 
+#include <vantrel/VantrelExport.h>
 #include <vantrel/values/Point.h>
 
 #include <iosfwd>
@@ -10,7 +11,7 @@ typedef struct _PangoRectangle PangoRectangle;
 
 namespace Vantrel {
 
-struct RectInt {
+struct VANTREL_EXPORT RectInt {
     int32_t left = 0;
     int32_t top = 0;
     int32_t right = 0;
@@ -36,7 +37,7 @@ inline bool operator!=(RectInt const &a, RectInt const &b) { return !(a == b); }
 // A rectangle as its top-left and bottom-right corners. Nothing keeps the
 // corners ordered; Normalized() orders them. The right and bottom edges are
 // outside the rect for Contains().
-struct Rect {
+struct VANTREL_EXPORT Rect {
     Point topLeft;
     Point bottomRight;
 
@@ -98,6 +99,6 @@ inline bool operator==(Rect const &a, Rect const &b) {
 inline bool operator!=(Rect const &a, Rect const &b) { return !(a == b); }
 
 // Writes "((left,top),(right,bottom))".
-std::ostream &operator<<(std::ostream &os, Rect const &r);
+VANTREL_EXPORT std::ostream &operator<<(std::ostream &os, Rect const &r);
 
 } // namespace Vantrel

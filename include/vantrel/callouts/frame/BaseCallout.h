@@ -2,6 +2,7 @@
 // and outlines are measured by drawing into measuring contexts.
 #pragma once
 
+#include <vantrel/VantrelExport.h>
 #include <vantrel/drawing/DrawingContext.h>
 #include <vantrel/text/DrawOutputMetaData.h>
 #include <vantrel/values/Color.h>
@@ -14,7 +15,7 @@
 namespace Vantrel {
 
 // The six style values of every filled callout.
-class CalloutProperties {
+class VANTREL_EXPORT CalloutProperties {
 public:
     Color fillColor;
     // "gradient" (exactly) for a gradient fill; anything else fills solid.
@@ -42,7 +43,7 @@ public:
 // There is no clone() here: the classes that can be copied offer their own,
 // and a few (LineWithCaps, CustomPath) cannot be, so a base clone() would
 // have to be allowed to fail.
-class BaseCallout {
+class VANTREL_EXPORT BaseCallout {
 public:
     // Which pieces to draw, a bit mask; a host may combine the bits freely.
     enum DrawOptions { DrawOptionText = 1, DrawOptionBody = 2, DrawOptionTail = 4, DrawOptionAll = 255 };
@@ -87,7 +88,7 @@ inline BaseCallout::DrawOptions operator|(BaseCallout::DrawOptions a, BaseCallou
 // direction: the gradient line spans the projection of rect on the direction.
 // A direction without length (zero or not finite) counts as (0, 1), top to
 // bottom, so that the pattern is always drawable.
-GradientPattern makeGradientPattern(Color const &color, Rect const &rect, Point const &direction);
+VANTREL_EXPORT GradientPattern makeGradientPattern(Color const &color, Rect const &rect, Point const &direction);
 
 // Fills with makeGradientPattern if style is "gradient", else with color.
 void fillPolygonWithStyle(DrawingContext *context, Polygon const &polygon, Color const &color, std::string const &style,

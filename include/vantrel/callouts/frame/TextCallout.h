@@ -2,6 +2,7 @@
 // nothing but its text.
 #pragma once
 
+#include <vantrel/VantrelExport.h>
 #include <vantrel/callouts/frame/BaseCallout.h>
 #include <vantrel/geometry/Path.h>
 #include <vantrel/text/TextAttributeList.h>
@@ -11,7 +12,7 @@
 
 namespace Vantrel {
 
-class TextCallout : public BaseCallout {
+class VANTREL_EXPORT TextCallout : public BaseCallout {
 public:
     TextCallout(Rect const &bodyRect, TextCalloutProperties const &properties, TextAttributeList const &attributes);
     // Default properties and no attributes; the factories install the text afterwards.

@@ -2,6 +2,7 @@
 // into one outline at every drawing.
 #pragma once
 
+#include <vantrel/VantrelExport.h>
 #include <vantrel/callouts/frame/BaseCallout.h>
 #include <vantrel/callouts/lines/LineKinds.h>
 
@@ -10,9 +11,9 @@ namespace Vantrel {
 // One end of a LineWithCaps.
 struct LineEnd {
     int kind = EndCapKind::None; // an EndCapKind; any other number draws nothing
-    Point position;     // where the line ends
-    bool joined = true; // the shaft runs on into the cap (else it stands off)
-    double size = 0;    // the cap's scale
+    Point position;              // where the line ends
+    bool joined = true;          // the shaft runs on into the cap (else it stands off)
+    double size = 0;             // the cap's scale
 };
 
 // The shaft of a LineWithCaps.
@@ -31,7 +32,7 @@ struct ShaftSpec {
 // dropped at every drawing; nothing is drawn when either cap kind is unknown.
 // Dashes and dots are at most 10,000 per shaft: a longer rhythm is drawn
 // with that many, stretched to the length.
-class LineWithCaps : public BaseCallout {
+class VANTREL_EXPORT LineWithCaps : public BaseCallout {
 public:
     explicit LineWithCaps(Color const &color);
 

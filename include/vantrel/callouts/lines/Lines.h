@@ -2,6 +2,7 @@
 // built once from two points.
 #pragma once
 
+#include <vantrel/VantrelExport.h>
 #include <vantrel/callouts/frame/BaseCallout.h>
 
 #include <string>
@@ -9,7 +10,7 @@
 namespace Vantrel {
 
 // Shared by the fixed lines: tracking around the second point.
-class FixedLine : public BaseCallout {
+class VANTREL_EXPORT FixedLine : public BaseCallout {
 public:
     // trackingRectAround the second point.
     Rect trackingRect() const override;
@@ -23,7 +24,7 @@ protected:
 };
 
 // A bar 10 wide from start to end.
-class BoldLine : public FixedLine {
+class VANTREL_EXPORT BoldLine : public FixedLine {
 public:
     BoldLine(Color const &color, Point const &start, Point const &end);
     void drawIntoContext(DrawingContext *context, DrawOptions options, Rect referenceRect, int tailIndex,
@@ -35,7 +36,7 @@ protected:
 };
 
 // A bar 40 wide with a head 80 wide and 52 long at each end; a short arrow shrinks as a whole.
-class BoldDoubleArrow : public FixedLine {
+class VANTREL_EXPORT BoldDoubleArrow : public FixedLine {
 public:
     BoldDoubleArrow(Color const &color, Point const &start, Point const &end);
     void drawIntoContext(DrawingContext *context, DrawOptions options, Rect referenceRect, int tailIndex,
@@ -47,7 +48,7 @@ protected:
 };
 
 // A bar 20 wide, its corners rounded by 3 at every drawing.
-class AbstractLine : public FixedLine {
+class VANTREL_EXPORT AbstractLine : public FixedLine {
 public:
     AbstractLine(Color const &color, Point const &start, Point const &end);
     void drawIntoContext(DrawingContext *context, DrawOptions options, Rect referenceRect, int tailIndex,
@@ -59,7 +60,7 @@ protected:
 };
 
 // A bar 20 wide with heads 80 wide and 48 long at both ends, rounded by 5.
-class AbstractDoubleArrow : public FixedLine {
+class VANTREL_EXPORT AbstractDoubleArrow : public FixedLine {
 public:
     AbstractDoubleArrow(Color const &color, Point const &start, Point const &end);
     void drawIntoContext(DrawingContext *context, DrawOptions options, Rect referenceRect, int tailIndex,
@@ -72,7 +73,7 @@ protected:
 
 // A bar 10 wide whose first 15 % is lighter: the whole line at 70 % alpha,
 // and the rest again on top.
-class UrbanLine : public FixedLine {
+class VANTREL_EXPORT UrbanLine : public FixedLine {
 public:
     UrbanLine(Color const &color, Point const &start, Point const &end);
     void drawIntoContext(DrawingContext *context, DrawOptions options, Rect referenceRect, int tailIndex,
@@ -87,7 +88,7 @@ protected:
 // A translucent shaft of half width `width` under an opaque head at the end.
 // The style string is kept but changes nothing, and the second string is
 // dropped: neither reaches a drawing call.
-class UrbanArrow : public FixedLine {
+class VANTREL_EXPORT UrbanArrow : public FixedLine {
 public:
     UrbanArrow(Color const &color, double width, std::string const &style, Point const &start,
                std::string const &endStyle, Point const &end);

@@ -1,6 +1,7 @@
 // A host's own open polyline, in units that a size stretches on drawing.
 #pragma once
 
+#include <vantrel/VantrelExport.h>
 #include <vantrel/callouts/frame/BaseCallout.h>
 
 #include <string>
@@ -10,7 +11,7 @@ namespace Vantrel {
 
 // Only strokes: one open polyline with round caps and joins, each vertex
 // multiplied component-wise by size. It has no clone.
-class CustomPath : public BaseCallout {
+class VANTREL_EXPORT CustomPath : public BaseCallout {
 public:
     // path is a list of numbers, x then y, separated by commas or blanks
     // (runs of them count once; tabs and newlines do not separate). Each

@@ -1,12 +1,13 @@
 // Plain filled shapes: the frame they share and each shape.
 #pragma once
 
+#include <vantrel/VantrelExport.h>
 #include <vantrel/callouts/frame/BaseCallout.h>
 
 namespace Vantrel {
 
 // A filled and stroked shape inside rect.
-class ShapeCallout : public BaseCallout {
+class VANTREL_EXPORT ShapeCallout : public BaseCallout {
 public:
     ShapeCallout(Color const &fill, std::string const &fillStyle, Point const &gradientDirection, Color const &stroke,
                  double strokeWidth, std::string const &strokeStyle, Rect const &rect);
@@ -24,7 +25,7 @@ protected:
 };
 
 // The ellipse inscribed in rect. A rect without width or height draws nothing.
-class OvalShape : public ShapeCallout {
+class VANTREL_EXPORT OvalShape : public ShapeCallout {
 public:
     using ShapeCallout::ShapeCallout;
 
@@ -34,7 +35,7 @@ public:
 };
 
 // The rect as a polygon, its corners rounded by cornerRadius when above 0.
-class RectangleShape : public ShapeCallout {
+class VANTREL_EXPORT RectangleShape : public ShapeCallout {
 public:
     RectangleShape(Color const &fill, std::string const &fillStyle, Point const &gradientDirection, Color const &stroke,
                    double strokeWidth, std::string const &strokeStyle, double cornerRadius, Rect const &rect);
@@ -50,7 +51,7 @@ protected:
 // A five-pointed star centred on the origin (only the rect's size counts),
 // its x and y radii following the rect's width and height. The inner
 // vertices lie at innerRadiusRatio of the outer radius.
-class StarShape : public ShapeCallout {
+class VANTREL_EXPORT StarShape : public ShapeCallout {
 public:
     StarShape(Color const &fill, std::string const &fillStyle, Point const &gradientDirection, Color const &stroke,
               double strokeWidth, std::string const &strokeStyle, double innerRadiusRatio, double cornerRadius,
@@ -82,7 +83,7 @@ protected:
 // - a rect of width 0 collapses the polygon onto the vertical axis, the
 //   height radius being (H / 2) / cos(rotation) as for any other width,
 //   instead of dividing by the width.
-class RegularPolygonShape : public ShapeCallout {
+class VANTREL_EXPORT RegularPolygonShape : public ShapeCallout {
 public:
     static int const kMaxSides = 4096;
 
