@@ -1,5 +1,7 @@
 #include "Draw.h"
 
+#include "Catalogue.h"
+
 #include <vantrel/Vantrel.h>
 
 #include <algorithm>
@@ -18,51 +20,6 @@
 using namespace Vantrel;
 
 namespace VantrelTool {
-
-char const *const kDrawUsage = R"(usage: vantrel draw KIND [VARIANT] [OPTIONS] -o FILE.png
-
-Draws one callout, sized to its bounds plus a margin, on a transparent background.
-
-Kinds:
-  shape oval|rectangle|octagon|triangle|star   a shape from the theme's presets
-  custompath                                   a polyline given by --points, stretched by --size
-  line                                         a line of the theme's shaft and end caps
-                                               (--shaft, --start-cap, --end-cap), or with
-                                               --fixed the theme's fixed line
-  arrow                                        the theme's arrow
-  text                                         a plain text callout in --box
-
-Options:
-  -o, --output FILE.png     where to write the picture (required)
-  --theme NAME              basic, modern, urban, bold or abstract (default basic)
-  --box L,T,R,B             the callout's rectangle (default -80,-60,80,60)
-  --fill COLOR              fill colour, #RRGGBB or #RRGGBBAA (default #3366cc)
-  --fill-style STYLE        solid or gradient (default solid)
-  --gradient X,Y            direction of a gradient fill, light to dark (default 0,1)
-  --stroke COLOR            outline colour (default #222222)
-  --stroke-width N          outline width; 0 for none (default 2)
-  --stroke-style STYLE      solid, dash, dot, dashdot or dashdotdot (default solid)
-  --points "X,Y X,Y ..."    custompath: vertices, about -0.5 to 0.5 (default a zigzag)
-  --size W,H                custompath: the factor applied to the vertices (default 160,120)
-  --margin N                pixels around the callout's bounds (default 10)
-  --from X,Y, --to X,Y      line, arrow: the first and second point (default -100,40 and 100,-40)
-  --color COLOR             line, arrow: colour (default #3366cc)
-  --width N                 line: width; arrow: half width of the Urban arrow (default 8)
-  --shaft TYPE              line: solid, dotted or dashed (default solid)
-  --start-cap CAP           line: none, circle, diamond, arrow, square, tail, bolddiamond
-  --end-cap CAP                   or dot (default none and arrow); a theme without the cap
-                                  draws none
-  --fixed                   line: the theme's fixed line instead
-  --text TEXT               text: the text, UTF-8 (default a sample)
-  --text-file FILE          text: the text read from a file
-  --font FAMILY             text: font family (default DejaVu Sans)
-  --font-size N             text: font size in points (default 24)
-  --align A                 text: left, center or right (default center)
-  --valign A                text: top, middle or bottom (default middle)
-  --resize WORD             text: resizeText shrinks the text to fit the box; any other word does not
-  --caret N                 text: draw the caret before character N
-  --selection S,E           text: draw the selection of characters S to E
-)";
 
 namespace {
 
@@ -101,42 +58,29 @@ Color colour(std::string const &option, std::string const &text) {
     return c;
 }
 
+// "a, b or c".
+std::string oneOfList(std::vector<std::string> const &words) {
+    std::string list;
+    for (size_t i = 0; i < words.size(); ++i)
+        list += (i == 0 ? "" : i + 1 == words.size() ? " or " : ", ") + words[i];
+    return list;
+}
+
 std::string oneOf(std::string const &option, std::string const &text, std::vector<std::string> const &words) {
     for (std::string const &w : words)
         if (w == text)
             return text;
-    std::string list;
-    for (std::string const &w : words)
-        list += (list.empty() ? "" : ", ") + w;
-    throw UsageError("bad value '" + text + "' for " + option + ": expected one of " + list);
+    throw UsageError("bad value '" + text + "' for " + option + ": expected one of " + oneOfList(words));
 }
 
-struct DrawOptions {
-    std::string kind, variant, output;
+// What one draw asks for: the kind, the settings it is drawn with, and
+// what only the picture needs.
+struct Request {
+    std::string family, variant, output;
     Presets::Theme theme = Presets::ThemeBasic;
     std::string themeName = "basic";
-    Rect box = Rect(-80, -60, 80, 60);
-    Color fill = Color(0.2f, 0.4f, 0.8f);
-    std::string fillStyle = "solid";
-    Point gradient = Point(0, 1);
-    Color stroke = Color(0.133f, 0.133f, 0.133f);
-    double strokeWidth = 2;
-    std::string strokeStyle = "solid";
-    std::string points = "-0.5,0.5 -0.25,-0.5 0,0.3 0.25,-0.5 0.5,0.5";
-    Point size = Point(160, 120);
+    Settings settings;
     double margin = 10;
-    Point from = Point(-100, 40), to = Point(100, -40);
-    Color color = Color(0.2f, 0.4f, 0.8f);
-    double width = 8;
-    Presets::LineShaftType shaftType = Presets::LineShaftSolid;
-    Presets::LineEndCapType startCap = Presets::LineEndCapNone, endCap = Presets::LineEndCapArrow;
-    bool fixed = false;
-    std::string text = "Vantrel lays text out, fits it to its box and paints it.";
-    std::string font = "DejaVu Sans";
-    double fontSize = 24;
-    TextHorizontalAlignment align = Center;
-    TextVerticalAlignment valign = Middle;
-    std::string resize = "resizeText";
     bool marks = false;
     Range selection;
 };
@@ -147,8 +91,227 @@ Presets::LineEndCapType capType(std::string const &option, std::string const &te
     return Presets::LineEndCapType(std::find(names.begin(), names.end(), name) - names.begin());
 }
 
-DrawOptions parse(std::vector<std::string> const &args) {
-    DrawOptions o;
+// One option: its flags, the word for its value (none for a switch), its
+// help (further lines after a newline) and what it sets. The usage text and
+// the parser are both made from this table.
+struct Option {
+    std::vector<std::string> flags;
+    std::string value;
+    std::string help;
+    std::function<void(Request &, std::string const &flag, std::string const &value)> set;
+};
+
+std::vector<Option> const &options() {
+    static std::vector<Option> const table = {
+        {{"-o", "--output"},
+         "FILE.png",
+         "where to write the picture (required)",
+         [](Request &r, std::string const &, std::string const &v) { r.output = v; }},
+        {{"--theme"},
+         "NAME",
+         "basic, modern, urban, bold or abstract (default basic)",
+         [](Request &r, std::string const &f, std::string const &v) {
+             std::vector<std::string> names;
+             for (ThemeName const &t : kThemes)
+                 names.push_back(t.name);
+             r.themeName = oneOf(f, v, names);
+             r.theme = kThemes[size_t(std::find(names.begin(), names.end(), r.themeName) - names.begin())].theme;
+         }},
+        {{"--box"},
+         "L,T,R,B",
+         "the callout's rectangle (default -80,-60,80,60)",
+         [](Request &r, std::string const &f, std::string const &v) {
+             std::vector<double> b = numbers(f, v, 4);
+             r.settings.box = Rect(b[0], b[1], b[2], b[3]);
+         }},
+        {{"--fill"},
+         "COLOR",
+         "fill colour, #RRGGBB or #RRGGBBAA (default #3366cc)",
+         [](Request &r, std::string const &f, std::string const &v) { r.settings.fill = colour(f, v); }},
+        {{"--fill-style"},
+         "STYLE",
+         "solid or gradient (default solid)",
+         [](Request &r, std::string const &f, std::string const &v) {
+             r.settings.fillStyle = oneOf(f, v, {"solid", "gradient"});
+         }},
+        {{"--gradient"},
+         "X,Y",
+         "direction of a gradient fill, light to dark (default 0,1)",
+         [](Request &r, std::string const &f, std::string const &v) {
+             std::vector<double> g = numbers(f, v, 2);
+             r.settings.gradient = Point(g[0], g[1]);
+         }},
+        {{"--stroke"},
+         "COLOR",
+         "outline colour (default #222222)",
+         [](Request &r, std::string const &f, std::string const &v) { r.settings.stroke = colour(f, v); }},
+        {{"--stroke-width"},
+         "N",
+         "outline width; 0 for none (default 2)",
+         [](Request &r, std::string const &f, std::string const &v) { r.settings.strokeWidth = numbers(f, v, 1)[0]; }},
+        {{"--stroke-style"},
+         "STYLE",
+         "solid, dash, dot, dashdot or dashdotdot (default solid)",
+         [](Request &r, std::string const &f, std::string const &v) {
+             r.settings.strokeStyle = oneOf(f, v, {"solid", "dash", "dot", "dashdot", "dashdotdot"});
+         }},
+        {{"--points"},
+         "\"X,Y X,Y ...\"",
+         "custompath: vertices, about -0.5 to 0.5 (default a zigzag)",
+         [](Request &r, std::string const &, std::string const &v) { r.settings.points = v; }},
+        {{"--size"},
+         "W,H",
+         "custompath: the factor applied to the vertices (default 160,120)",
+         [](Request &r, std::string const &f, std::string const &v) {
+             std::vector<double> s = numbers(f, v, 2);
+             r.settings.size = Point(s[0], s[1]);
+         }},
+        {{"--margin"},
+         "N",
+         "pixels around the callout's bounds, 0 to 1000 (default 10)",
+         [](Request &r, std::string const &f, std::string const &v) {
+             r.margin = numbers(f, v, 1)[0];
+             if (r.margin < 0 || r.margin > 1000)
+                 throw UsageError("bad value for --margin: expected 0 to 1000");
+         }},
+        {{"--from"},
+         "X,Y",
+         "line, arrow: the first point (default -100,40)",
+         [](Request &r, std::string const &f, std::string const &v) {
+             std::vector<double> p = numbers(f, v, 2);
+             r.settings.from = Point(p[0], p[1]);
+         }},
+        {{"--to"},
+         "X,Y",
+         "line, arrow: the second point (default 100,-40)",
+         [](Request &r, std::string const &f, std::string const &v) {
+             std::vector<double> p = numbers(f, v, 2);
+             r.settings.to = Point(p[0], p[1]);
+         }},
+        {{"--color"},
+         "COLOR",
+         "line, arrow, text: colour (default #3366cc)",
+         [](Request &r, std::string const &f, std::string const &v) { r.settings.color = colour(f, v); }},
+        {{"--width"},
+         "N",
+         "line: width; arrow: half width of the Urban arrow (default 8)",
+         [](Request &r, std::string const &f, std::string const &v) { r.settings.width = numbers(f, v, 1)[0]; }},
+        {{"--shaft"},
+         "TYPE",
+         "line: solid, dotted or dashed (default solid)",
+         [](Request &r, std::string const &f, std::string const &v) {
+             std::string t = oneOf(f, v, {"solid", "dotted", "dashed"});
+             r.settings.shaftType = t == "solid"    ? Presets::LineShaftSolid
+                                    : t == "dotted" ? Presets::LineShaftDotted
+                                                    : Presets::LineShaftDashed;
+         }},
+        {{"--start-cap"},
+         "CAP",
+         "line: none, circle, diamond, arrow, square, tail, bolddiamond or dot\n(default none); a theme without the "
+         "cap draws none",
+         [](Request &r, std::string const &f, std::string const &v) { r.settings.startCap = capType(f, v); }},
+        {{"--end-cap"},
+         "CAP",
+         "line: the same words (default arrow)",
+         [](Request &r, std::string const &f, std::string const &v) { r.settings.endCap = capType(f, v); }},
+        {{"--fixed"},
+         "",
+         "line: the theme's fixed line, as 'draw line fixed'",
+         [](Request &r, std::string const &, std::string const &) { r.variant = "fixed"; }},
+        {{"--text"},
+         "TEXT",
+         "text: the text, UTF-8 (default a sample)",
+         [](Request &r, std::string const &, std::string const &v) { r.settings.text = v; }},
+        {{"--text-file"},
+         "FILE",
+         "text: the text read from a file",
+         [](Request &r, std::string const &, std::string const &v) {
+             std::ifstream in(v, std::ios::binary);
+             if (!in)
+                 throw UsageError("cannot read the file '" + v + "' for --text-file");
+             r.settings.text.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
+         }},
+        {{"--font"},
+         "FAMILY",
+         "text: font family (default DejaVu Sans)",
+         [](Request &r, std::string const &, std::string const &v) { r.settings.font = v; }},
+        {{"--font-size"},
+         "N",
+         "text: font size in points (default 24)",
+         [](Request &r, std::string const &f, std::string const &v) { r.settings.fontSize = numbers(f, v, 1)[0]; }},
+        {{"--align"},
+         "A",
+         "text: left, center or right (default center)",
+         [](Request &r, std::string const &f, std::string const &v) {
+             std::string t = oneOf(f, v, {"left", "center", "right"});
+             r.settings.align = t == "left" ? Left : t == "center" ? Center : Right;
+         }},
+        {{"--valign"},
+         "A",
+         "text: top, middle or bottom (default middle)",
+         [](Request &r, std::string const &f, std::string const &v) {
+             std::string t = oneOf(f, v, {"top", "middle", "bottom"});
+             r.settings.valign = t == "top" ? Top : t == "middle" ? Middle : Bottom;
+         }},
+        {{"--resize"},
+         "WORD",
+         "text: resizeText shrinks the text to fit the box; any other word does not",
+         [](Request &r, std::string const &, std::string const &v) { r.settings.resize = v; }},
+        {{"--caret"},
+         "N",
+         "text: draw the caret before character N",
+         [](Request &r, std::string const &f, std::string const &v) {
+             int at = int(numbers(f, v, 1)[0]);
+             r.selection = Range(at, at);
+             r.marks = true;
+         }},
+        {{"--selection"},
+         "S,E",
+         "text: draw the selection of characters S to E",
+         [](Request &r, std::string const &f, std::string const &v) {
+             std::vector<double> s = numbers(f, v, 2);
+             r.selection = Range(int(s[0]), int(s[1]));
+             r.marks = true;
+         }},
+    };
+    return table;
+}
+
+// "a|b|c" of a family's named variants, in brackets when it has a default.
+std::string variantsOf(Family const &family) {
+    std::string names;
+    bool hasDefault = false;
+    for (Kind const &k : family.kinds) {
+        if (k.variant.empty())
+            hasDefault = true;
+        else
+            names += (names.empty() ? "" : "|") + k.variant;
+    }
+    return names.empty() ? "" : hasDefault ? "[" + names + "]" : names;
+}
+
+std::string padded(std::string text, size_t column) {
+    text.resize(std::max(text.size() + 2, column), ' ');
+    return text;
+}
+
+// Continuation lines of a help text, indented to its column.
+std::string indented(std::string const &help, size_t column) {
+    std::string out;
+    for (char c : help)
+        out += c == '\n' ? "\n" + std::string(column, ' ') : std::string(1, c);
+    return out + "\n";
+}
+
+Option const *findOption(std::string const &flag) {
+    for (Option const &o : options())
+        if (std::find(o.flags.begin(), o.flags.end(), flag) != o.flags.end())
+            return &o;
+    return nullptr;
+}
+
+Request parse(std::vector<std::string> const &args) {
+    Request r;
     std::vector<std::string> positional;
     for (size_t i = 0; i < args.size(); ++i) {
         std::string const &a = args[i];
@@ -156,162 +319,86 @@ DrawOptions parse(std::vector<std::string> const &args) {
             positional.push_back(a);
             continue;
         }
-        if (a == "--fixed") {
-            o.fixed = true;
+        Option const *option = findOption(a);
+        if (!option)
+            throw UsageError("unknown option '" + a + "' for draw");
+        if (option->value.empty()) {
+            option->set(r, a, "");
             continue;
         }
         if (i + 1 >= args.size())
             throw UsageError("option " + a + " needs a value");
-        std::string const &v = args[++i];
-        if (a == "-o" || a == "--output")
-            o.output = v;
-        else if (a == "--theme") {
-            std::string t = oneOf(a, v, {"basic", "modern", "urban", "bold", "abstract"});
-            std::map<std::string, Presets::Theme> themes{{"basic", Presets::ThemeBasic},
-                                                         {"modern", Presets::ThemeModern},
-                                                         {"urban", Presets::ThemeUrban},
-                                                         {"bold", Presets::ThemeBold},
-                                                         {"abstract", Presets::ThemeAbstract}};
-            o.theme = themes[t];
-            o.themeName = t;
-        } else if (a == "--box") {
-            std::vector<double> b = numbers(a, v, 4);
-            o.box = Rect(b[0], b[1], b[2], b[3]);
-        } else if (a == "--fill")
-            o.fill = colour(a, v);
-        else if (a == "--fill-style")
-            o.fillStyle = oneOf(a, v, {"solid", "gradient"});
-        else if (a == "--gradient") {
-            std::vector<double> g = numbers(a, v, 2);
-            o.gradient = Point(g[0], g[1]);
-        } else if (a == "--stroke")
-            o.stroke = colour(a, v);
-        else if (a == "--stroke-width")
-            o.strokeWidth = numbers(a, v, 1)[0];
-        else if (a == "--stroke-style")
-            o.strokeStyle = oneOf(a, v, {"solid", "dash", "dot", "dashdot", "dashdotdot"});
-        else if (a == "--points")
-            o.points = v;
-        else if (a == "--size") {
-            std::vector<double> s = numbers(a, v, 2);
-            o.size = Point(s[0], s[1]);
-        } else if (a == "--margin")
-            o.margin = numbers(a, v, 1)[0];
-        else if (a == "--from" || a == "--to") {
-            std::vector<double> p = numbers(a, v, 2);
-            (a == "--from" ? o.from : o.to) = Point(p[0], p[1]);
-        } else if (a == "--color")
-            o.color = colour(a, v);
-        else if (a == "--width")
-            o.width = numbers(a, v, 1)[0];
-        else if (a == "--shaft") {
-            std::string t = oneOf(a, v, {"solid", "dotted", "dashed"});
-            o.shaftType = t == "solid"    ? Presets::LineShaftSolid
-                          : t == "dotted" ? Presets::LineShaftDotted
-                                          : Presets::LineShaftDashed;
-        } else if (a == "--text")
-            o.text = v;
-        else if (a == "--text-file") {
-            std::ifstream in(v, std::ios::binary);
-            if (!in)
-                throw UsageError("cannot read the file '" + v + "' for --text-file");
-            o.text.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
-        } else if (a == "--font")
-            o.font = v;
-        else if (a == "--font-size")
-            o.fontSize = numbers(a, v, 1)[0];
-        else if (a == "--align") {
-            std::string t = oneOf(a, v, {"left", "center", "right"});
-            o.align = t == "left" ? Left : t == "center" ? Center : Right;
-        } else if (a == "--valign") {
-            std::string t = oneOf(a, v, {"top", "middle", "bottom"});
-            o.valign = t == "top" ? Top : t == "middle" ? Middle : Bottom;
-        } else if (a == "--resize")
-            o.resize = v;
-        else if (a == "--caret") {
-            int at = int(numbers(a, v, 1)[0]);
-            o.selection = Range(at, at);
-            o.marks = true;
-        } else if (a == "--selection") {
-            std::vector<double> r = numbers(a, v, 2);
-            o.selection = Range(int(r[0]), int(r[1]));
-            o.marks = true;
-        } else if (a == "--start-cap")
-            o.startCap = capType(a, v);
-        else if (a == "--end-cap")
-            o.endCap = capType(a, v);
-        else
-            throw UsageError("unknown option '" + a + "' for draw");
+        option->set(r, a, args[++i]);
     }
+    std::vector<std::string> families;
+    for (Family const &f : catalogue())
+        families.push_back(f.name);
     if (positional.empty())
-        throw UsageError("draw needs a kind: shape, custompath, line, arrow or text");
-    o.kind = oneOf("the kind", positional[0], {"shape", "custompath", "line", "arrow", "text"});
-    size_t expected = o.kind == "shape" ? 2 : 1;
-    if (o.kind == "shape") {
-        if (positional.size() < 2)
-            throw UsageError("draw shape needs a variant: oval, rectangle, octagon, triangle or star");
-        o.variant = oneOf("the shape", positional[1], {"oval", "rectangle", "octagon", "triangle", "star"});
+        throw UsageError("draw needs a kind: " + oneOfList(families));
+    r.family = oneOf("the kind", positional[0], families);
+    Family const &family = *findFamily(r.family);
+    // The second word is the variant when the family has one by that name,
+    // or has no default to fall back on.
+    size_t expected = 1;
+    if (positional.size() > 1 && r.variant.empty() && (findKind(family, positional[1]) || !findKind(family, ""))) {
+        r.variant = positional[1];
+        expected = 2;
+    }
+    if (!findKind(family, r.variant)) {
+        std::vector<std::string> variants;
+        for (Kind const &k : family.kinds)
+            if (!k.variant.empty())
+                variants.push_back(k.variant);
+        if (r.variant.empty())
+            throw UsageError("draw " + r.family + " needs a variant: " + oneOfList(variants));
+        oneOf("the " + r.family, r.variant, variants);
     }
     if (positional.size() > expected)
         throw UsageError("unexpected argument '" + positional[expected] + "'");
-    if (o.output.empty())
+    if (r.output.empty())
         throw UsageError("draw needs -o FILE.png");
-    if (o.margin < 0 || o.margin > 1000)
-        throw UsageError("bad value for --margin: expected 0 to 1000");
-    return o;
-}
-
-std::unique_ptr<BaseCallout> make(DrawOptions const &o) {
-    if (o.kind == "custompath")
-        return std::unique_ptr<BaseCallout>(new CustomPath(o.points, o.size, o.stroke, o.strokeWidth, o.strokeStyle));
-    if (o.kind == "line" && o.fixed)
-        return std::unique_ptr<BaseCallout>(Presets::createLine(o.theme, o.color, o.from, o.to));
-    if (o.kind == "line")
-        return std::unique_ptr<BaseCallout>(
-            Presets::createLine(o.theme, o.color, o.width, o.from, o.to, o.shaftType, o.startCap, o.endCap));
-    if (o.kind == "text") {
-        TextCalloutProperties p;
-        p.text = o.text;
-        p.textRect = o.box;
-        p.horizontalAlignment = o.align;
-        p.verticalAlignment = o.valign;
-        p.resizeBehavior = o.resize;
-        TextAttributeList a;
-        Range all(0, int(o.text.size()));
-        a.addFontNameAttribute(all, o.font);
-        a.addFontSizeAttribute(all, o.fontSize);
-        a.addFGColorAttribute(all, o.color);
-        return std::unique_ptr<BaseCallout>(new TextCallout(o.box, p, a));
-    }
-    if (o.kind == "arrow")
-        return std::unique_ptr<BaseCallout>(
-            Presets::createArrow(o.theme, o.color, o.width, "solid", o.from, "", o.to, ""));
-    using Factory = BaseCallout *(*)(Presets::Theme, Color const &, std::string const &, Point const &, Color const &,
-                                     double, std::string const &, Rect const &);
-    std::map<std::string, Factory> shapes{{"oval", Presets::createShapeOval},
-                                          {"rectangle", Presets::createShapeRectangle},
-                                          {"octagon", Presets::createShapeOctagon},
-                                          {"triangle", Presets::createShapeTriangle},
-                                          {"star", Presets::createShapeStar}};
-    return std::unique_ptr<BaseCallout>(
-        shapes[o.variant](o.theme, o.fill, o.fillStyle, o.gradient, o.stroke, o.strokeWidth, o.strokeStyle, o.box));
+    return r;
 }
 
 } // namespace
 
+std::string drawUsage() {
+    std::string usage = "usage: vantrel draw KIND [VARIANT] [OPTIONS] -o FILE.png\n\n"
+                        "Draws one callout, sized to its bounds plus a margin, on a transparent background.\n\n"
+                        "Kinds:\n";
+    size_t kindColumn = 0;
+    for (Family const &f : catalogue())
+        kindColumn = std::max(kindColumn, 2 + f.name.size() + 1 + variantsOf(f).size() + 3);
+    for (Family const &f : catalogue()) {
+        std::string variants = variantsOf(f);
+        usage +=
+            padded("  " + f.name + (variants.empty() ? "" : " " + variants), kindColumn) + indented(f.help, kindColumn);
+    }
+    usage += "\nOptions:\n";
+    size_t const column = 28;
+    for (Option const &o : options()) {
+        std::string flags;
+        for (std::string const &f : o.flags)
+            flags += (flags.empty() ? "" : ", ") + f;
+        usage += padded("  " + flags + (o.value.empty() ? "" : " " + o.value), column) + indented(o.help, column);
+    }
+    return usage;
+}
+
 int runDraw(std::vector<std::string> const &args) {
     for (std::string const &a : args)
         if (a == "-h" || a == "--help") {
-            std::cout << kDrawUsage;
+            std::cout << drawUsage();
             return 0;
         }
     try {
-        DrawOptions o = parse(args);
-        std::unique_ptr<BaseCallout> callout = make(o);
+        Request r = parse(args);
+        Kind const &kind = *findKind(*findFamily(r.family), r.variant);
+        std::unique_ptr<BaseCallout> callout(kind.make(r.theme, r.settings));
         if (!callout)
-            throw UsageError("theme " + o.themeName + " has no " +
-                             (o.variant.empty() ? (o.fixed ? "fixed " : "") + o.kind : o.variant));
-        Rect bounds = callout->boundingRect().Expanded(o.margin);
+            throw UsageError("theme " + r.themeName + " has no " + (r.variant.empty() ? "" : r.variant + " ") +
+                             r.family);
+        Rect bounds = callout->boundingRect().Expanded(r.margin);
         RectInt pixels = bounds.ToContainingRectInt();
         int64_t width = int64_t(pixels.right) - pixels.left, height = int64_t(pixels.bottom) - pixels.top;
         if (width <= 0 || height <= 0 || width > 16000 || height > 16000)
@@ -321,13 +408,13 @@ int runDraw(std::vector<std::string> const &args) {
         picture.builtInBitmap()->clear();
         picture.Translate(Point(-pixels.left, -pixels.top));
         callout->drawIntoContext(&picture, BaseCallout::DrawOptionAll, Rect(), -1, nullptr);
-        if (auto *text = dynamic_cast<TextCallout *>(callout.get()); text && o.marks)
-            text->drawSelectionIntoContext(&picture, o.selection, Color(0.2f, 0.5f, 1.0f, 0.35f),
+        if (auto *text = dynamic_cast<TextCallout *>(callout.get()); text && r.marks)
+            text->drawSelectionIntoContext(&picture, r.selection, Color(0.2f, 0.5f, 1.0f, 0.35f),
                                            Color(0.9f, 0.1f, 0.1f));
         cairo_surface_t *surface = cairo_get_target(picture.Get());
         cairo_surface_flush(surface);
-        if (cairo_surface_write_to_png(surface, o.output.c_str()) != CAIRO_STATUS_SUCCESS) {
-            std::cerr << "vantrel: could not write '" << o.output << "'\n";
+        if (cairo_surface_write_to_png(surface, r.output.c_str()) != CAIRO_STATUS_SUCCESS) {
+            std::cerr << "vantrel: could not write '" << r.output << "'\n";
             return 1;
         }
         return 0;

@@ -10,6 +10,7 @@ namespace VantrelTool {
 // (0, 1 when the file cannot be written, 2 for a bad option or value).
 int runDraw(std::vector<std::string> const &args);
 
-extern char const *const kDrawUsage;
+// The usage text of the verb, made from the catalogue and the option table.
+std::string drawUsage();
 
 } // namespace VantrelTool

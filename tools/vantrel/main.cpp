@@ -62,7 +62,7 @@ int main(int argc, char **argv) {
     std::string command = args.front();
     args.erase(args.begin());
     if (command == "-h" || command == "--help" || command == "help") {
-        std::cout << kUsage << '\n' << VantrelTool::kDrawUsage;
+        std::cout << kUsage << '\n' << VantrelTool::drawUsage();
         return 0;
     }
     if (command == "draw")

@@ -1,0 +1,119 @@
+#include "Catalogue.h"
+
+using namespace Vantrel;
+
+namespace VantrelTool {
+
+std::vector<ThemeName> const kThemes = {{Presets::ThemeBasic, "basic"},
+                                        {Presets::ThemeModern, "modern"},
+                                        {Presets::ThemeUrban, "urban"},
+                                        {Presets::ThemeBold, "bold"},
+                                        {Presets::ThemeAbstract, "abstract"}};
+
+namespace {
+
+using ShapeFactory = BaseCallout *(*)(Presets::Theme, Color const &, std::string const &, Point const &, Color const &,
+                                      double, std::string const &, Rect const &);
+
+Kind shape(std::string variant, std::string title, ShapeFactory factory, Color colour) {
+    return {variant, title,
+            [factory](Presets::Theme theme, Settings const &s) {
+                return factory(theme, s.fill, s.fillStyle, s.gradient, s.stroke, s.strokeWidth, s.strokeStyle, s.box);
+            },
+            [colour](Settings &s) {
+                s.fill = colour;
+                s.box = Rect(-65, -42, 65, 42);
+                s.gradient = Point(0.3, 1);
+                s.stroke = kInk;
+            }};
+}
+
+TextCallout *textCallout(Settings const &s) {
+    TextCalloutProperties p;
+    p.text = s.text;
+    p.textRect = s.box;
+    p.horizontalAlignment = s.align;
+    p.verticalAlignment = s.valign;
+    p.resizeBehavior = s.resize;
+    TextAttributeList a;
+    Range all(0, int(s.text.size()));
+    a.addFontNameAttribute(all, s.font);
+    a.addFontSizeAttribute(all, s.fontSize);
+    a.addFGColorAttribute(all, s.color);
+    return new TextCallout(s.box, p, a);
+}
+
+std::vector<Family> build() {
+    return {
+        {"shape",
+         "a shape from the theme's presets",
+         {shape("oval", "Oval", Presets::createShapeOval, kBlue),
+          shape("rectangle", "Rectangle", Presets::createShapeRectangle, kOrange),
+          shape("octagon", "Octagon", Presets::createShapeOctagon, kRed),
+          shape("triangle", "Triangle", Presets::createShapeTriangle, kGreen),
+          shape("star", "Star", Presets::createShapeStar, kYellow)}},
+        {"custompath",
+         "a polyline given by --points, stretched by --size",
+         {{"", "CustomPath",
+           [](Presets::Theme, Settings const &s) -> BaseCallout * {
+               return new CustomPath(s.points, s.size, s.stroke, s.strokeWidth, s.strokeStyle);
+           },
+           [](Settings &s) {
+               s.size = Point(140, 90);
+               s.stroke = kBlue;
+           }}}},
+        {"line",
+         "a line of the theme's shaft and end caps (--shaft, --start-cap,\n--end-cap); fixed (or --fixed): the "
+         "theme's fixed line",
+         {{"", "line with caps",
+           [](Presets::Theme theme, Settings const &s) -> BaseCallout * {
+               return Presets::createLine(theme, s.color, s.width, s.from, s.to, s.shaftType, s.startCap, s.endCap);
+           },
+           nullptr},
+          {"fixed", "fixed line",
+           [](Presets::Theme theme, Settings const &s) { return Presets::createLine(theme, s.color, s.from, s.to); },
+           [](Settings &s) {
+               s.color = kBlue;
+               s.from = Point(-70, 30);
+               s.to = Point(70, -30);
+           }}}},
+        {"arrow",
+         "the theme's arrow",
+         {{"", "arrow",
+           [](Presets::Theme theme, Settings const &s) {
+               return Presets::createArrow(theme, s.color, s.width, "solid", s.from, "", s.to, "");
+           },
+           [](Settings &s) {
+               s.color = kOrange;
+               s.width = 6;
+               s.from = Point(-75, 25);
+               s.to = Point(75, -25);
+           }}}},
+        {"text",
+         "a plain text callout in --box",
+         {{"", "text", [](Presets::Theme, Settings const &s) -> BaseCallout * { return textCallout(s); }, nullptr}}},
+    };
+}
+
+} // namespace
+
+std::vector<Family> const &catalogue() {
+    static std::vector<Family> const families = build();
+    return families;
+}
+
+Family const *findFamily(std::string const &name) {
+    for (Family const &f : catalogue())
+        if (f.name == name)
+            return &f;
+    return nullptr;
+}
+
+Kind const *findKind(Family const &family, std::string const &variant) {
+    for (Kind const &k : family.kinds)
+        if (k.variant == variant)
+            return &k;
+    return nullptr;
+}
+
+} // namespace VantrelTool
