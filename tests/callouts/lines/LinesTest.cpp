@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <chrono>
 #include <cmath>
 #include <memory>
 #include <numeric>
@@ -103,29 +102,35 @@ TEST(Shafts, OutlinesOfEachKind) {
 }
 
 TEST(EndCaps, OutlinesAndInsets) {
-    EXPECT_TRUE(makeEndCap(EndCapKind::None, 10)->outline().points.empty());
-    EXPECT_EQ(makeEndCap(EndCapKind::None, 10)->shaftInset(true), 0);
-    EXPECT_EQ(makeEndCap(EndCapKind::Dot, 10)->shaftInset(true), 5);
-    EXPECT_EQ(makeEndCap(EndCapKind::Dot, 10)->shaftInset(false), 10);
-    Rect circle = makeEndCap(EndCapKind::Circle, 10)->outline().BoundingRect();
+    namespace cap = EndCapKind;
+    struct Inset {
+        int kind;
+        bool joined;
+        double inset;
+    };
+    for (Inset c : {Inset{cap::None, true, 0}, Inset{cap::Dot, true, 5}, Inset{cap::Dot, false, 10},
+                    Inset{cap::BoldArrow, true, 6.99}, Inset{cap::BoldDiamond, true, 3.749},
+                    Inset{cap::Square, false, 9.999}, Inset{cap::AbstractTail, true, 11}}) {
+        SCOPED_TRACE(c.kind);
+        EXPECT_NEAR(makeEndCap(c.kind, 10)->shaftInset(c.joined), c.inset, 1e-12);
+    }
+    EXPECT_TRUE(makeEndCap(cap::None, 10)->outline().points.empty());
+    EXPECT_TRUE(makeEndCap(cap::Dot, 0)->outline().points.empty());
+    Rect circle = makeEndCap(cap::Circle, 10)->outline().BoundingRect();
     EXPECT_NEAR(circle.Left(), 0, 1e-9);
     EXPECT_NEAR(circle.Right(), 10, 1e-9);
-    EXPECT_TRUE(makeEndCap(EndCapKind::Dot, 0)->outline().points.empty());
-    EXPECT_EQ(makeEndCap(EndCapKind::UrbanDiamond, 20)->outline().points,
+    EXPECT_EQ(makeEndCap(cap::UrbanDiamond, 20)->outline().points,
               (std::vector<Point>{Point(0, 0), Point(10, 10), Point(20, 0), Point(10, -10)}));
-    Polygon rounded = makeEndCap(EndCapKind::BasicDiamond, 20)->outline(); // radius 1
-    EXPECT_GT(rounded.points.size(), 4u);
+    Polygon rounded = makeEndCap(cap::BasicDiamond, 20)->outline(); // radius 1
     EXPECT_NEAR(rounded.BoundingRect().Right(), 20 - (std::sqrt(2.0) - 1), 1e-6);
-    EXPECT_EQ(makeEndCap(EndCapKind::BoldArrow, 10)->outline().points, (std::vector<Point>{Point(0, 0), Point(7, 5), Point(7, -5)}));
-    EXPECT_NEAR(makeEndCap(EndCapKind::BoldArrow, 10)->shaftInset(true), 6.99, 1e-12);
-    EXPECT_NEAR(makeEndCap(EndCapKind::BoldDiamond, 10)->shaftInset(true), 3.749, 1e-12);
-    EXPECT_NEAR(makeEndCap(EndCapKind::Square, 10)->shaftInset(false), 9.999, 1e-12);
-    Rect tail = makeEndCap(EndCapKind::AbstractTail, 10)->outline().BoundingRect();
+    EXPECT_EQ(makeEndCap(cap::BoldArrow, 10)->outline().points,
+              (std::vector<Point>{Point(0, 0), Point(7, 5), Point(7, -5)}));
+    Rect tail = makeEndCap(cap::AbstractTail, 10)->outline().BoundingRect();
     EXPECT_LT(tail.Left(), 0); // the swallow tail's back corners lie behind the end
     EXPECT_NEAR(tail.Right(), 16, 0.5);
-    for (int kind = EndCapKind::None; kind <= EndCapKind::UrbanDiamond; ++kind)
+    for (int kind = cap::None; kind <= cap::UrbanDiamond; ++kind)
         EXPECT_NE(makeEndCap(kind, 8), nullptr) << kind;
-    EXPECT_EQ(makeEndCap(EndCapKind::UrbanDiamond + 1, 8), nullptr);
+    EXPECT_EQ(makeEndCap(cap::UrbanDiamond + 1, 8), nullptr);
     EXPECT_EQ(makeEndCap(-1, 8), nullptr);
 }
 
@@ -239,9 +244,6 @@ TEST(LineWithCaps, OutlinesOfShaftAndCaps) {
 }
 
 TEST(LineWithCaps, FadeGradient) {
-    struct Capture : VantrelTest::Canvas {
-        Capture() : Canvas(1, 1) {}
-    };
     // The gradient stops are seen by drawing into a recording of fills.
     class Recorder : public CrossPlatformDrawingContext {
     public:
@@ -341,24 +343,6 @@ TEST(LineWithCaps, EveryCombinationDrawsAndMeasures) {
             }
 }
 
-TEST(LineWithCaps, HostileInputStaysBounded) {
-    auto start = std::chrono::steady_clock::now();
-    VantrelTest::Canvas canvas(64, 64);
-    for (int shaftType = 0; shaftType <= 2; ++shaftType) {
-        for (double width : {1e-9, -4.0, 0.0, 1e9}) {
-            for (Point end : {Point(1e6, 0), Point(0, 0), Point(1e-9, 0)}) {
-                std::unique_ptr<LineWithCaps> line(Presets::createLine(
-                    Presets::ThemeBasic, kInk, width, Point(0, 0), end, Presets::LineShaftType(shaftType),
-                    Presets::LineEndCapArrow, Presets::LineEndCapDot));
-                line->drawIntoContext(&canvas.context, BaseCallout::DrawOptionAll, Rect(), -1, nullptr);
-                line->boundingRect();
-            }
-        }
-    }
-    // Not a timing test: a guard against the billions of pieces the cap prevents.
-    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(120));
-}
-
 // A draw's work is bounded by its pieces: only the pieces that touch a cap
 // go through the union, the others pass by as they are.
 TEST(LineWithCaps, OnlyPiecesThatTouchACapAreUnited) {
@@ -388,6 +372,18 @@ TEST(LineWithCaps, OnlyPiecesThatTouchACapAreUnited) {
     line.shaft.width = 7e-15;
     Polygons outline = line.pathAsPolygons(Rect());
     EXPECT_LE(outline.polygons.size(), size_t(kMaxShaftPieces) + 2);
+
+    // Hostile widths and lengths: no more pieces than the bound, and drawing goes on.
     VantrelTest::Canvas canvas(64, 64);
-    line.drawIntoContext(&canvas.context, BaseCallout::DrawOptionAll, Rect(), -1, nullptr);
+    for (int shaftType = 0; shaftType <= 2; ++shaftType)
+        for (double width : {1e-9, -4.0, 0.0, 1e9})
+            for (Point end : {Point(1e6, 0), Point(0, 0), Point(1e-9, 0)}) {
+                SCOPED_TRACE(std::to_string(shaftType) + " width " + std::to_string(width) + " to " +
+                             std::to_string(end.x));
+                std::unique_ptr<LineWithCaps> hostile(Presets::createLine(
+                    Presets::ThemeBasic, kInk, width, Point(0, 0), end, Presets::LineShaftType(shaftType),
+                    Presets::LineEndCapArrow, Presets::LineEndCapDot));
+                hostile->drawIntoContext(&canvas.context, BaseCallout::DrawOptionAll, Rect(), -1, nullptr);
+                EXPECT_LE(hostile->pathAsPolygons(Rect()).polygons.size(), size_t(kMaxShaftPieces) + 2);
+            }
 }

@@ -1,5 +1,9 @@
-// Bounds and outlines come from the callout's one drawing routine.
+// The callout frame: bounds and outlines come from the one drawing routine,
+// the gradient of every "gradient" fill, and the factory steps of the text
+// callouts.
 #include "support/CalloutChecks.h"
+
+#include "callouts/frame/TextCalloutFactory.h"
 
 #include <gtest/gtest.h>
 
@@ -68,12 +72,6 @@ TEST(Measurement, BoundsAreCachedForLifeAndCopiedByClone) {
     EXPECT_EQ(copy->draws, 0);
     // The default tracking rect is the bounds; one centred elsewhere grows to hold them.
     EXPECT_EQ(callout.trackingRect(), first);
-
-    OvalShape oval(Color(1, 0, 0), "solid", Point(0, 1), Color(0, 0, 0), 4, "solid", Rect(-10, -10, 10, 10));
-    Rect ovalBounds = oval.boundingRect();
-    std::unique_ptr<OvalShape> ovalCopy(oval.clone());
-    EXPECT_EQ(ovalCopy->boundingRect(), ovalBounds);
-    EXPECT_NEAR(ovalBounds.Left(), -12, 0.5);
 }
 
 TEST(Measurement, OutlineQueriesSelectTheirPiece) {
@@ -123,5 +121,69 @@ TEST(Measurement, HostileGeometryMeasuresWithoutHanging) {
         Polygons outline = oval.pathAsPolygons(Rect());
         for (auto const &p : outline.polygons)
             EXPECT_LE(p->points.size(), 100000u);
+    }
+}
+
+TEST(MakeGradientPattern, SpansTheProjectionOfTheRect) {
+    GradientPattern g = makeGradientPattern(Color(1, 1, 1, 0.5f), Rect(10, 10, 30, 20), Point(1, 0));
+    EXPECT_EQ(g.start, Point(10, 0));
+    EXPECT_EQ(g.end, Point(30, 0));
+    ASSERT_EQ(g.stops.size(), 3u);
+    EXPECT_EQ(g.stops[1].color, Color(1, 1, 1, 0.5f));
+    EXPECT_EQ(g.stops[2].color, Color(0.65f, 0.65f, 0.65f, 0.5f));
+    GradientPattern black = makeGradientPattern(Color(0, 0, 0), Rect(0, 0, 1, 1), Point(0, 1));
+    EXPECT_EQ(black.stops[0].color, Color(0.35f, 0.35f, 0.35f));
+
+    GradientPattern diagonal = makeGradientPattern(Color(0, 0, 0), Rect(0, 0, 10, 10), Point(-3, -3));
+    EXPECT_NEAR(diagonal.start.x, 10, 1e-12); // the largest projection is at the far corner
+    EXPECT_NEAR(diagonal.end.x, 0, 1e-12);
+
+    // Without a direction the gradient runs top to bottom.
+    for (Point none : {Point(0, 0), Point(std::nan(""), 1)}) {
+        GradientPattern g0 = makeGradientPattern(Color(0, 0, 0), Rect(0, 5, 10, 25), none);
+        EXPECT_EQ(g0.start, Point(0, 5));
+        EXPECT_EQ(g0.end, Point(0, 25));
+    }
+}
+
+namespace {
+
+// A text callout made the way the themed ones are, by createWithTextBox.
+class BoxedText : public TextCallout {
+public:
+    using TextCallout::TextCallout;
+    static BoxedText *createWithTextBox(Rect const &r, CalloutProperties const &p, Point tail) {
+        BoxedText *made = new BoxedText(r);
+        made->style = p;
+        made->tail = tail;
+        return made;
+    }
+    CalloutProperties style;
+    Point tail;
+};
+
+} // namespace
+
+TEST(TextCalloutFactory, TheThemeTablePicksMakesAndInstalls) {
+    ThemeTable<Point> const table{
+        {&makeTextCallout<BoxedText, Point>, nullptr, &makeTextCallout<BoxedText, Point>, nullptr, nullptr}};
+    TextCalloutProperties text;
+    text.text = "hi";
+    TextAttributeList attributes;
+    attributes.addFontSizeAttribute(Range(0, 2), 30);
+    TextCalloutRequest const request{
+        CalloutProperties(Color(1, 0, 0), "gradient", Point(0, 1), Color(0, 0, 0), 2, "dash"), Rect(-50, -20, 50, 20),
+        text, attributes};
+    std::unique_ptr<BaseCallout> made(table.make(Presets::ThemeUrban, request, Point(3, 4)));
+    auto *boxed = dynamic_cast<BoxedText *>(made.get());
+    ASSERT_NE(boxed, nullptr);
+    EXPECT_EQ(boxed->tail, Point(3, 4));
+    EXPECT_EQ(boxed->style.fillStyle, "gradient");
+    EXPECT_EQ(boxed->bodyRect(), request.bodyRect);
+    EXPECT_EQ(boxed->textCalloutProperties().text, "hi");
+    EXPECT_EQ(boxed->textAttributeList().pangoAttributes().size(), 1u);
+    for (int theme : {int(Presets::ThemeModern), int(Presets::ThemeBold), -1, 5}) {
+        SCOPED_TRACE(theme);
+        EXPECT_EQ(table.make(Presets::Theme(theme), request, Point()), nullptr);
     }
 }

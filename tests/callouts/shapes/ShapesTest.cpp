@@ -7,6 +7,7 @@
 #include <memory>
 
 using namespace Vantrel;
+using VantrelTest::Canvas;
 using VantrelTest::expectBoundsMatchInk;
 
 namespace {
@@ -32,7 +33,79 @@ Factory const kFactories[] = {Presets::createShapeOval, Presets::createShapeRect
 char const *const kFactoryNames[] = {"oval", "rectangle", "octagon", "triangle", "star"};
 Presets::Theme const kThemes[] = {Presets::ThemeBasic, Presets::ThemeUrban, Presets::ThemeBold, Presets::ThemeAbstract};
 
+Color const kBlue(0, 0, 1);
+Color const kBlack(0, 0, 0);
+
+void draw(BaseCallout const &callout, Canvas &canvas, Point at) {
+    canvas.context.Save();
+    canvas.context.Translate(at);
+    callout.drawIntoContext(&canvas.context, BaseCallout::DrawOptionAll, Rect(), -1, nullptr);
+    canvas.context.Restore();
+}
+
+int blueAt(Canvas const &canvas, int x, int y) { return canvas.at(x, y) & 0xFF; }
+int redAt(Canvas const &canvas, int x, int y) { return (canvas.at(x, y) >> 16) & 0xFF; }
+
 } // namespace
+
+TEST(OvalShape, FillsAndStrokesItsEllipse) {
+    OvalShape oval(kBlue, "solid", Point(0, 1), kBlack, 4, "solid", Rect(-40, -20, 40, 20));
+    Canvas canvas(100, 60);
+    draw(oval, canvas, Point(50, 30));
+    EXPECT_EQ(canvas.at(50, 30), 0xFF0000FFu); // fill
+    EXPECT_EQ(canvas.at(10, 30), 0xFF000000u); // stroke on the left end
+    EXPECT_EQ(canvas.at(9, 30) >> 24, 255u);   // half the width outside the rect
+    EXPECT_EQ(canvas.at(6, 30), 0u);
+    EXPECT_EQ(canvas.at(12, 12), 0u); // the rect's corner is outside the ellipse
+    EXPECT_EQ(oval.trackingRect(), Rect(-42, -22, 42, 22));
+
+    OvalShape bare(kBlue, "solid", Point(0, 1), kBlack, 0, "dash", Rect(-40, -20, 40, 20));
+    Canvas unstroked(100, 60);
+    draw(bare, unstroked, Point(50, 30));
+    EXPECT_EQ(unstroked.at(12, 30), 0xFF0000FFu); // no outline at width 0
+    EXPECT_EQ(unstroked.at(9, 30), 0u);
+    EXPECT_EQ(bare.trackingRect(), Rect(-40, -20, 40, 20));
+}
+
+TEST(OvalShape, GradientRunsLightToDarkAlongItsDirection) {
+    for (Point direction : {Point(0, 1), Point(0, 5)}) {
+        OvalShape oval(kBlue, "gradient", direction, kBlack, 0, "solid", Rect(-30, -40, 30, 40));
+        Canvas canvas(60, 80);
+        draw(oval, canvas, Point(30, 40));
+        EXPECT_GT(redAt(canvas, 30, 2), 70); // lighter: red and green lifted towards 0.35
+        EXPECT_LT(redAt(canvas, 30, 39), 5); // the colour itself in the middle
+        EXPECT_EQ(blueAt(canvas, 30, 39), 255);
+        EXPECT_LT(blueAt(canvas, 30, 77), 180); // darker: blue towards 0.65
+        EXPECT_GT(blueAt(canvas, 30, 2), blueAt(canvas, 30, 77));
+    }
+    // Only the exact word "gradient" makes a gradient.
+    for (char const *style : {"Gradient", "", "gradient "}) {
+        OvalShape oval(kBlue, style, Point(0, 1), kBlack, 0, "solid", Rect(-30, -40, 30, 40));
+        Canvas canvas(60, 80);
+        draw(oval, canvas, Point(30, 40));
+        EXPECT_EQ(canvas.at(30, 5), 0xFF0000FFu) << style;
+    }
+}
+
+TEST(OvalShape, EveryStrokeStyleDrawsADifferentOutline) {
+    std::vector<int> inkCounts;
+    for (char const *style : {"solid", "dash", "dot", "dashdot", "dashdotdot"}) {
+        OvalShape oval(Color(), "solid", Point(0, 1), kBlack, 4, style, Rect(-40, -30, 40, 30));
+        Canvas canvas(100, 80);
+        draw(oval, canvas, Point(50, 40));
+        int ink = 0;
+        for (int y = 0; y < 80; ++y)
+            for (int x = 0; x < 100; ++x)
+                ink += VantrelTest::alphaAt(canvas.bitmap, x, y);
+        inkCounts.push_back(ink);
+    }
+    // solid > dash > dashdot > dashdotdot > dot: the share of "on" length.
+    EXPECT_GT(inkCounts[0], inkCounts[1]);
+    EXPECT_GT(inkCounts[1], inkCounts[3]);
+    EXPECT_GT(inkCounts[3], inkCounts[4]);
+    EXPECT_GT(inkCounts[4], inkCounts[2]);
+    EXPECT_GT(inkCounts[2], 0);
+}
 
 TEST(Shapes, BoundsMatchTheInkOfEveryShape) {
     for (int f = 0; f < 5; ++f)
@@ -116,6 +189,15 @@ TEST(Shapes, ClonesKeepFieldsAndCachedBounds) {
     std::unique_ptr<RegularPolygonShape> hexagon(
         RegularPolygonShape(kFill, "solid", Point(0, 1), kInk, 2, "dot", 6, 0, 0, Rect(-30, -30, 30, 30)).clone());
     EXPECT_EQ(firstOutline(*hexagon).points.size(), 6u);
+    // A copy outlives its original.
+    std::unique_ptr<OvalShape> oval(
+        new OvalShape(kBlue, "gradient", Point(1, 0), kBlack, 3, "dash", Rect(-10, -10, 10, 10)));
+    std::unique_ptr<OvalShape> ovalCopy(oval->clone());
+    oval.reset();
+    EXPECT_EQ(ovalCopy->trackingRect(), Rect(-11.5, -11.5, 11.5, 11.5));
+    Canvas canvas(30, 30);
+    draw(*ovalCopy, canvas, Point(15, 15));
+    EXPECT_EQ(canvas.at(15, 15) >> 24, 255u);
 }
 
 TEST(Shapes, OddCountsAndSizesHaveDefinedResults) {
