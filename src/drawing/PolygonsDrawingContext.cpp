@@ -47,7 +47,7 @@ void PolygonsDrawingContext::collect(Polygons const &list) {
 
 Polygon PolygonsDrawingContext::ellipsePolygon(Rect const &rect) {
     Path ellipse;
-    ellipse.AddArc(rect.Center(), rect.Width() * 0.5, rect.Height() * 0.5, 0.0, 6.283185307179586);
+    ellipse.AddArc(rect.Center(), rect.Width() * 0.5, rect.Height() * 0.5, 0.0, 2 * kPi);
     return ellipse.Flattened(this);
 }
 

@@ -11,16 +11,10 @@ using namespace Vantrel;
 
 TEST(Point, ArithmeticAndProducts) {
     Point a(3, 4), b(-1, 2);
-    EXPECT_EQ(a + b, Point(2, 6));
-    EXPECT_EQ(a - b, Point(4, 2));
-    EXPECT_EQ(a * 2.0, Point(6, 8));
     EXPECT_DOUBLE_EQ(a * b, 5.0);  // dot
     EXPECT_DOUBLE_EQ(a ^ b, 10.0); // cross
-    EXPECT_DOUBLE_EQ(a.Length(), 5.0);
     EXPECT_EQ(a.Perpendicular(), Point(-4, 3));
     EXPECT_TRUE(std::signbit((-Point(0, 0)).x));
-    EXPECT_EQ(a.DividedBy(Point(2, 8)), Point(1.5, 0.5));
-    EXPECT_EQ(a.MultipliedBy(2, 3), Point(6, 12));
     // Division multiplies by the reciprocal.
     EXPECT_EQ((Point(1, 0) / 3.0).x, 1.0 * (1.0 / 3.0));
     EXPECT_FALSE(std::isfinite(Point(0, 0).Normalized().x));
@@ -54,17 +48,8 @@ TEST(Rect, ConversionsToInts) {
 
 TEST(Rect, GeometryHelpers) {
     Rect r(10, 20, 30, 60);
-    EXPECT_EQ(r.Center(), Point(20, 40));
-    EXPECT_EQ(r.Size(), Point(20, 40));
-    EXPECT_EQ(r.HalfWidth(), 10);
-    EXPECT_EQ(r.Expanded(2), Rect(8, 18, 32, 62));
-    EXPECT_EQ(r.Expanded(Point(1, 3)), Rect(9, 17, 31, 63));
     EXPECT_EQ(r.PointAtFraction(0.5, 0.25), Point(20, 30));
-    EXPECT_EQ(r * 0.5f, Rect(5, 10, 15, 30));
     EXPECT_EQ(r.Scaled(Point(2, -1)), Rect(20, -20, 60, -60));
-    Rect moved = r;
-    EXPECT_EQ(&moved.Offset(Point(1, 1)), &moved);
-    EXPECT_EQ(moved, r.OffsettedRect(Point(1, 1)));
     EXPECT_EQ(Rect(5, 9, 1, 2).Normalized(), Rect(1, 2, 5, 9));
     EXPECT_EQ(Rect(5, 2, 1, 9).Normalized(), Rect(1, 2, 5, 9));
     EXPECT_EQ(Rect(5, 2, 1, 9).Width(), -4);
@@ -143,19 +128,11 @@ TEST(Matrix3x3, SegmentMappingRotatesAndScalesUniformly) {
 
 TEST(Polygon, OrientationAndTransforms) {
     Polygon p(Rect(0, 0, 2, 1));
-    ASSERT_EQ(p.points.size(), 4u);
-    EXPECT_EQ(p.points[0], Point(0, 0));
-    EXPECT_EQ(p.points[1], Point(2, 0));
-    EXPECT_EQ(p.points[2], Point(2, 1));
-    EXPECT_EQ(p.points[3], Point(0, 1));
+    EXPECT_EQ(p.points, (std::vector<Point>{Point(0, 0), Point(2, 0), Point(2, 1), Point(0, 1)}));
     EXPECT_GT(p.SignedArea(), 0);
     EXPECT_EQ(p.Reversed().PositivelyOriented().points, p.points);
     Polygon flat({Point(0, 0), Point(1, 1), Point(2, 2)});
     EXPECT_EQ(flat.PositivelyOriented().points, flat.points);
-
-    Polygon self = p;
-    self.Append(self);
-    EXPECT_EQ(self.points.size(), 8u);
 
     Polygons list;
     list.Add(p);

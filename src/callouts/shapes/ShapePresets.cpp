@@ -27,8 +27,8 @@ ThemeValue byTheme(Presets::Theme theme, double basic, double urban, double bold
     }
 }
 
-double const kOctagonRotation = -0.39269908169872414;
-double const kTriangleRotation = -0.5235987755982988;
+double const kOctagonRotation = -kPi / 8;
+double const kTriangleRotation = -kPi / 6;
 
 } // namespace
 
