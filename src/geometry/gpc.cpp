@@ -21,6 +21,8 @@ namespace Vantrel {
 namespace {
 
 double const GPC_EPSILON = DBL_EPSILON;
+// Beyond this extent an edge's rounding reaches a ten-thousandth of a unit.
+double const kFarSpan = 1e12;
 
 enum { LEFT = 0, RIGHT = 1 };  // output ends, and parity
 enum { ABOVE = 0, BELOW = 1 }; // sides of a scanbeam boundary
@@ -63,7 +65,8 @@ h_state const next_h_state[3][6] = {
 // two edges computed from different vertices of one line differ by an ulp or
 // two of their x, which an absolute epsilon misses beyond x = 1.
 bool EQ(double a, double b) {
-    return std::fabs(a - b) <= 2 * GPC_EPSILON * std::max(1.0, std::max(std::fabs(a), std::fabs(b)));
+    double const d = std::fabs(a - b);
+    return d <= GPC_EPSILON || d <= 2 * GPC_EPSILON * std::max(std::fabs(a), std::fabs(b));
 }
 
 struct vertex_node {
@@ -88,6 +91,7 @@ struct edge_node {
     gpc_vertex bot;
     gpc_vertex top;
     double xb, xt, dx;
+    bool far; // spans so far that its x is measured from its nearer end
     int type;
     int bundle[2][2];
     int bside[2];
@@ -336,6 +340,8 @@ edge_node *buildEdges(LmtBuilder &lmt, std::vector<double> &heights, gpc_polygon
                     v = step(v);
                     e[k].top = table[v].vertex;
                     e[k].dx = (e[k].top.x - e[k].bot.x) / (e[k].top.y - e[k].bot.y);
+                    e[k].far = !(std::fabs(e[k].top.x - e[k].bot.x) <= kFarSpan &&
+                                 std::fabs(e[k].top.y - e[k].bot.y) <= kFarSpan);
                     e[k].type = type;
                     e[k].outp[ABOVE] = nullptr;
                     e[k].outp[BELOW] = nullptr;
@@ -354,13 +360,15 @@ edge_node *buildEdges(LmtBuilder &lmt, std::vector<double> &heights, gpc_polygon
     return table;
 }
 
-// The edge's x at height y, between its ends, measured from the end nearer
-// in height: from a far end (1e300 away, say) the slope's rounding alone
-// would swamp every digit of x. An edge that is nearly horizontal has a
+// The edge's x at height y, between its ends. An edge that spans more than
+// kFarSpan has it measured from the end nearer in height: from a far end
+// (1e300 away, say) the slope's rounding alone would swamp every digit of x.
+// Other edges measure from the bottom, as the sweep's hot loop wants a
+// branch it can predict. An edge that is nearly horizontal has a
 // slope that overflows; its x then comes from the fraction of its height, so
 // that no coordinate becomes infinite or NaN.
 double xAt(edge_node const *edge, double y) {
-    gpc_vertex const &near = y - edge->bot.y <= edge->top.y - y ? edge->bot : edge->top;
+    gpc_vertex const &near = !edge->far || y - edge->bot.y <= edge->top.y - y ? edge->bot : edge->top;
     double const x = near.x + edge->dx * (y - near.y);
     if (std::isfinite(x))
         return x;
