@@ -29,3 +29,4 @@
 #include <vantrel/callouts/lines/Lines.h>
 #include <vantrel/callouts/shapes/CustomPath.h>
 #include <vantrel/callouts/shapes/Shapes.h>
+#include <vantrel/callouts/speech/SpeechBubbles.h>

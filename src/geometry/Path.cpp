@@ -2,6 +2,8 @@
 
 #include <vantrel/drawing/DrawingContext.h>
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace Vantrel {
@@ -57,6 +59,43 @@ private:
     Point center, xAxis, yAxis;
     double startAngle, endAngle;
 };
+
+// The largest coordinate a path's steps name, as far as they are finite: an
+// arc counts its centre and axes, a curve its control points.
+class ExtentContext : public PathDrawingContext {
+public:
+    double extent = 0;
+
+    void StartPath() override {}
+    void FillCurrentPath(GradientPattern const &) override {}
+    void FillCurrentPath(Color const &) override {}
+    void StrokeCurrentPath(Color const &, double, std::string const &, LineCapTypes, LineJoinTypes, bool) override {}
+    void AddArcToCurrentPath(Point const &center, double rx, double ry, double, double) override {
+        see(center, std::fabs(rx) + std::fabs(ry));
+    }
+    void AddArcToCurrentPath(Point const &center, Point const &xAxis, Point const &yAxis, double, double) override {
+        see(center, xAxis.Length() + yAxis.Length());
+    }
+    void AddLineToCurrentPath(Point const &p) override { see(p, 0); }
+    void MoveToPointInCurrentPath(Point const &p) override { see(p, 0); }
+    void AddCurveToCurrentPath(Point const &c1, Point const &c2, Point const &e) override {
+        see(c1, 0);
+        see(c2, 0);
+        see(e, 0);
+    }
+    Point CurrentPointInPath() override { return Point(); }
+
+private:
+    void see(Point const &p, double reach) {
+        double const far = std::max(std::fabs(p.x), std::fabs(p.y)) + reach;
+        if (std::isfinite(far))
+            extent = std::max(extent, far);
+    }
+};
+
+// cairo keeps a path in fixed point, which holds about 8 million units;
+// flattening stays well inside that.
+double const kFlatteningExtent = 1 << 20;
 
 } // namespace
 
@@ -128,8 +167,24 @@ void Path::Stroke(Color const &color, double lineWidth, std::string const &style
 }
 
 Polygon Path::Flattened(DrawingContext *context) const {
+    ExtentContext reach;
+    replay(&reach);
+    if (!(reach.extent > kFlatteningExtent)) {
+        replay(context);
+        return context->FlattenedPath();
+    }
+    // Beyond cairo's range: flattened at a power of two smaller, which is
+    // exact to scale back, then the path itself is made current.
+    int exponent = 0;
+    std::frexp(reach.extent / kFlatteningExtent, &exponent);
+    Path smaller(*this);
+    smaller.Transform(Matrix3x3::Uniform(std::ldexp(1.0, -exponent)));
+    smaller.replay(context);
+    Polygon flat = context->FlattenedPath();
+    for (Point &p : flat.points)
+        p = Point(std::ldexp(p.x, exponent), std::ldexp(p.y, exponent));
     replay(context);
-    return context->FlattenedPath();
+    return flat;
 }
 
 } // namespace Vantrel

@@ -52,6 +52,21 @@ TEST(Path, StepsReplayInOrderAndArcsJoinWithALine) {
     full.AddArc(Point(0, 0), 5, 0, 2 * kPi);
     EXPECT_EQ(full.NumSteps(), 1);
     EXPECT_GT(full.Flattened(&recording).points.size(), 8u);
+
+    // Beyond cairo's fixed point (8 million units) a path flattens at scale,
+    // into a bounded number of points that lie where they should.
+    for (double radius : {1e7, 1e12}) {
+        SCOPED_TRACE(radius);
+        Path huge;
+        huge.AddArc(Point(radius, 0), radius, 0, kPi);
+        huge.AddPoint(Point(0, -radius));
+        Polygon flat = huge.Flattened(&recording);
+        ASSERT_GT(flat.points.size(), 8u);
+        EXPECT_LT(flat.points.size(), 10000u);
+        for (size_t i = 0; i + 1 < flat.points.size(); ++i)
+            EXPECT_NEAR((flat.points[i] - Point(radius, 0)).Length(), radius, radius * 1e-5);
+        EXPECT_NEAR(flat.points.back().y, -radius, radius * 1e-8);
+    }
 }
 
 TEST(Path, TransformCarriesTheLinearPartIntoArcs) {

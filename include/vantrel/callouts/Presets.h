@@ -5,6 +5,8 @@
 #include <vantrel/VantrelExport.h>
 #include <vantrel/callouts/frame/BaseCallout.h>
 #include <vantrel/callouts/lines/LineWithCaps.h>
+#include <vantrel/text/TextAttributeList.h>
+#include <vantrel/text/TextCalloutProperties.h>
 
 #include <string>
 
@@ -66,6 +68,18 @@ public:
     // a tapered shaft and no caps.
     static LineWithCaps *createLine(Theme theme, Color const &color, double width, Point const &start, Point const &end,
                                     LineShaftType shaftType, LineEndCapType startCapType, LineEndCapType endCapType);
+
+    // Speech bubbles around rect with a tail to tailPoint, the text installed;
+    // the first design or the second (Two) of the theme. Null for ThemeModern
+    // and unknown themes.
+    static BaseCallout *createSpeechBubble(Theme theme, Color const &fill, std::string const &fillStyle,
+                                           Point const &gradientDirection, Color const &stroke, double strokeWidth,
+                                           std::string const &strokeStyle, Rect const &rect, Point const &tailPoint,
+                                           TextCalloutProperties const &text, TextAttributeList const &attributes);
+    static BaseCallout *createSpeechBubbleTwo(Theme theme, Color const &fill, std::string const &fillStyle,
+                                              Point const &gradientDirection, Color const &stroke, double strokeWidth,
+                                              std::string const &strokeStyle, Rect const &rect, Point const &tailPoint,
+                                              TextCalloutProperties const &text, TextAttributeList const &attributes);
 };
 
 } // namespace Vantrel

@@ -59,7 +59,9 @@ public:
     void Stroke(Color const &color, double lineWidth, std::string const &style, DrawingContext *context,
                 LineCapTypes cap, LineJoinTypes join, bool closePath) const;
     // The contour flattened by the context into one polygon; the path stays
-    // current in the context.
+    // current in the context. A path reaching beyond a million units is
+    // flattened at a power of two smaller and scaled back, since cairo holds
+    // paths in a fixed point of about 8 million units.
     Polygon Flattened(DrawingContext *context) const;
 
 private:
