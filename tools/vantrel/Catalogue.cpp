@@ -28,19 +28,41 @@ Kind shape(std::string variant, std::string title, ShapeFactory factory, Color c
             }};
 }
 
-TextCallout *textCallout(Settings const &s) {
-    TextCalloutProperties p;
-    p.text = s.text;
-    p.textRect = s.box;
-    p.horizontalAlignment = s.align;
-    p.verticalAlignment = s.valign;
-    p.resizeBehavior = s.resize;
-    TextAttributeList a;
-    Range all(0, int(s.text.size()));
-    a.addFontNameAttribute(all, s.font);
-    a.addFontSizeAttribute(all, s.fontSize);
-    a.addFGColorAttribute(all, s.color);
-    return new TextCallout(s.box, p, a);
+using SpeechFactory = BaseCallout *(*)(Presets::Theme, Color const &, std::string const &, Point const &, Color const &,
+                                       double, std::string const &, Rect const &, Point const &,
+                                       TextCalloutProperties const &, TextAttributeList const &);
+
+// A speech bubble of the design. Several tails reach the Basic pair through
+// their constructor; the factories take one.
+template <class BasicDesign> Kind speech(std::string variant, std::string title, SpeechFactory factory) {
+    return {variant, title,
+            [factory](Presets::Theme theme, Settings const &s) -> BaseCallout * {
+                // A bubble's text takes the outline's colour, which stands out on the fill.
+                Settings inked = s;
+                inked.color = s.stroke;
+                TextCalloutProperties const p = textProperties(inked);
+                TextAttributeList const a = textAttributes(inked);
+                if (theme == Presets::ThemeBasic && s.tails.size() > 1) {
+                    auto *b = new BasicDesign(
+                        s.box,
+                        CalloutProperties(s.fill, s.fillStyle, s.gradient, s.stroke, s.strokeWidth, s.strokeStyle),
+                        s.tails);
+                    b->setTextCalloutProperties(p);
+                    b->setTextAttributeList(a);
+                    return b;
+                }
+                Point const tail = s.tails.empty() ? s.box.Center() : s.tails.front();
+                return factory(theme, s.fill, s.fillStyle, s.gradient, s.stroke, s.strokeWidth, s.strokeStyle, s.box,
+                               tail, p, a);
+            },
+            [](Settings &s) {
+                s.box = Rect(-48, -14, 48, 14);
+                s.text = "Hello there!";
+                s.fontSize = 12;
+                s.fill = Color(0.55f, 0.78f, 1.0f);
+                s.stroke = kInk;
+                s.strokeWidth = 2;
+            }};
 }
 
 std::vector<Family> build() {
@@ -91,11 +113,39 @@ std::vector<Family> build() {
            }}}},
         {"text",
          "a plain text callout in --box",
-         {{"", "text", [](Presets::Theme, Settings const &s) -> BaseCallout * { return textCallout(s); }, nullptr}}},
+         {{"", "text",
+           [](Presets::Theme, Settings const &s) -> BaseCallout * {
+               return new TextCallout(s.box, textProperties(s), textAttributes(s));
+           },
+           nullptr}}},
+        {"speech",
+         "a speech bubble around --box with its text, the tail to --tail; two\n(or --design two): the theme's "
+         "second design",
+         {speech<BasicSpeechBubble>("", "speech bubble", Presets::createSpeechBubble),
+          speech<BasicSpeechBubbleTwo>("two", "speech bubble, second design", Presets::createSpeechBubbleTwo)}},
     };
 }
 
 } // namespace
+
+TextCalloutProperties textProperties(Settings const &s) {
+    TextCalloutProperties p;
+    p.text = s.text;
+    p.textRect = s.box;
+    p.horizontalAlignment = s.align;
+    p.verticalAlignment = s.valign;
+    p.resizeBehavior = s.resize;
+    return p;
+}
+
+TextAttributeList textAttributes(Settings const &s) {
+    TextAttributeList a;
+    Range all(0, int(s.text.size()));
+    a.addFontNameAttribute(all, s.font);
+    a.addFontSizeAttribute(all, s.fontSize);
+    a.addFGColorAttribute(all, s.color);
+    return a;
+}
 
 std::vector<Family> const &catalogue() {
     static std::vector<Family> const families = build();

@@ -36,7 +36,13 @@ struct Settings {
     Vantrel::TextHorizontalAlignment align = Vantrel::Center;
     Vantrel::TextVerticalAlignment valign = Vantrel::Middle;
     std::string resize = "resizeText";
+    std::vector<Vantrel::Point> tails = {Vantrel::Point(120, 80)}; // speech: the first is the tail point
 };
+
+// The text of a text-bearing kind: the settings' text in their box, font,
+// size and colour.
+Vantrel::TextCalloutProperties textProperties(Settings const &s);
+Vantrel::TextAttributeList textAttributes(Settings const &s);
 
 // The sample colours of the catalogue and the gallery.
 inline Vantrel::Color const kInk(0.15f, 0.2f, 0.35f);

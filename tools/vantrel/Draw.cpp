@@ -83,6 +83,11 @@ struct Request {
     double margin = 10;
     bool marks = false;
     Range selection;
+    bool tailsGiven = false; // the first --tail replaces the default one
+    int options = BaseCallout::DrawOptionAll;
+    int tailIndex = -1;
+    Rect reference;
+    bool showOutlines = false;
 };
 
 Presets::LineEndCapType capType(std::string const &option, std::string const &text) {
@@ -143,7 +148,7 @@ std::vector<Option> const &options() {
          }},
         {{"--stroke"},
          "COLOR",
-         "outline colour (default #222222)",
+         "outline colour, and a bubble's text (default #222222)",
          [](Request &r, std::string const &f, std::string const &v) { r.settings.stroke = colour(f, v); }},
         {{"--stroke-width"},
          "N",
@@ -218,9 +223,48 @@ std::vector<Option> const &options() {
          "",
          "line: the theme's fixed line, as 'draw line fixed'",
          [](Request &r, std::string const &, std::string const &) { r.variant = "fixed"; }},
+        {{"--design"},
+         "WHICH",
+         "speech: one or two, the theme's first or second design (default one)",
+         [](Request &r, std::string const &f, std::string const &v) {
+             r.variant = oneOf(f, v, {"one", "two"}) == "two" ? "two" : "";
+         }},
+        {{"--tail"},
+         "X,Y",
+         "speech: a tail point (default 120,80); again for more tails, which the\nBasic designs draw",
+         [](Request &r, std::string const &f, std::string const &v) {
+             std::vector<double> t = numbers(f, v, 2);
+             if (!r.tailsGiven)
+                 r.settings.tails.clear();
+             r.tailsGiven = true;
+             r.settings.tails.push_back(Point(t[0], t[1]));
+         }},
+        {{"--reference"},
+         "W,H",
+         "speech: the reference rect's size, which the Basic designs shrink to",
+         [](Request &r, std::string const &f, std::string const &v) {
+             std::vector<double> s = numbers(f, v, 2);
+             r.reference = Rect(0, 0, s[0], s[1]);
+         }},
+        {{"--options"},
+         "N",
+         "the draw options: 1 text, 2 body, 4 tail, added up (default 255, all)",
+         [](Request &r, std::string const &f, std::string const &v) {
+             r.options = int(numbers(f, v, 1)[0]);
+             if (r.options < 0 || r.options > 255)
+                 throw UsageError("bad value for --options: expected 0 to 255");
+         }},
+        {{"--tail-index"},
+         "N",
+         "the tail to draw, -1 for all (default -1)",
+         [](Request &r, std::string const &f, std::string const &v) { r.tailIndex = int(numbers(f, v, 1)[0]); }},
+        {{"--show-outlines"},
+         "",
+         "draw the body's outline (green) and the tails' (red) over the callout",
+         [](Request &r, std::string const &, std::string const &) { r.showOutlines = true; }},
         {{"--text"},
          "TEXT",
-         "text: the text, UTF-8 (default a sample)",
+         "text, speech: the text, UTF-8 (default a sample)",
          [](Request &r, std::string const &, std::string const &v) { r.settings.text = v; }},
         {{"--text-file"},
          "FILE",
@@ -407,7 +451,11 @@ int runDraw(std::vector<std::string> const &args) {
         CrossPlatformDrawingContextWithBuiltInBitmap picture{int(width), int(height)};
         picture.builtInBitmap()->clear();
         picture.Translate(Point(-pixels.left, -pixels.top));
-        callout->drawIntoContext(&picture, BaseCallout::DrawOptionAll, Rect(), -1, nullptr);
+        callout->drawIntoContext(&picture, BaseCallout::DrawOptions(r.options), r.reference, r.tailIndex, nullptr);
+        if (r.showOutlines) {
+            picture.Stroke(Color(0.1f, 0.7f, 0.2f), 1.5, "solid", callout->bodyPathAsPolygons(r.reference));
+            picture.Stroke(Color(0.9f, 0.1f, 0.2f), 1.5, "dash", callout->tailPathAsPolygons(r.tailIndex, r.reference));
+        }
         if (auto *text = dynamic_cast<TextCallout *>(callout.get()); text && r.marks)
             text->drawSelectionIntoContext(&picture, r.selection, Color(0.2f, 0.5f, 1.0f, 0.35f),
                                            Color(0.9f, 0.1f, 0.1f));

@@ -48,6 +48,7 @@ std::vector<Section> sections() {
     addUnionSection(all);
     addLineSections(all);
     addTextSections(all);
+    addSpeechSections(all);
     return all;
 }
 

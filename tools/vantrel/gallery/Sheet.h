@@ -44,5 +44,6 @@ void addShapeSections(std::vector<Section> &all);
 void addUnionSection(std::vector<Section> &all);
 void addLineSections(std::vector<Section> &all);
 void addTextSections(std::vector<Section> &all);
+void addSpeechSections(std::vector<Section> &all);
 
 } // namespace VantrelTool
