@@ -101,11 +101,16 @@ bool setPolygonsAsPath(cairo_t *cr, Polygons const &polygons) {
     for (auto const &shared : polygons.polygons) {
         if (!shared || shared->points.size() < 3)
             continue;
+        // A polygon counts as that of its finite vertices, as in the union:
+        // cairo is never handed a coordinate that is not a number.
         Polygon p = shared->PositivelyOriented();
-        cairo_move_to(cr, p.points[0].x, p.points[0].y);
-        for (size_t i = 1; i < p.points.size(); ++i)
-            cairo_line_to(cr, p.points[i].x, p.points[i].y);
-        cairo_close_path(cr);
+        size_t drawn = 0;
+        for (Point const &q : p.points)
+            if (finite(q)) {
+                (drawn++ ? cairo_line_to : cairo_move_to)(cr, q.x, q.y);
+            }
+        if (drawn)
+            cairo_close_path(cr);
     }
     return true;
 }
@@ -301,9 +306,16 @@ void CrossPlatformDrawingContext::AddArcToCurrentPath(Point const &center, Point
     addArc(impl->cr, center, xAxis, yAxis, startAngle, endAngle);
 }
 
-void CrossPlatformDrawingContext::AddLineToCurrentPath(Point const &p) { cairo_line_to(impl->cr, p.x, p.y); }
+// A point that is not finite adds nothing.
+void CrossPlatformDrawingContext::AddLineToCurrentPath(Point const &p) {
+    if (finite(p))
+        cairo_line_to(impl->cr, p.x, p.y);
+}
 
-void CrossPlatformDrawingContext::MoveToPointInCurrentPath(Point const &p) { cairo_move_to(impl->cr, p.x, p.y); }
+void CrossPlatformDrawingContext::MoveToPointInCurrentPath(Point const &p) {
+    if (finite(p))
+        cairo_move_to(impl->cr, p.x, p.y);
+}
 
 void CrossPlatformDrawingContext::AddCurveToCurrentPath(Point const &c1, Point const &c2, Point const &end) {
     cairo_t *cr = impl->cr;
