@@ -343,6 +343,10 @@ TEST(CairoContext, HostileInputKeepsTheContextDrawing) {
     EXPECT_EQ(dashOf(c), (std::vector<double>{1, 2}));
     EXPECT_EQ(cairo_status(c.Get()), CAIRO_STATUS_SUCCESS);
     c.Clear(Color());
+    // A polygon is drawn as that of its finite vertices.
+    c.Fill(kRed, Polygon({Point(0, 0), Point(nan, 5), Point(40, 0), Point(inf, 9), Point(40, 40)}));
+    EXPECT_EQ(canvas.at(30, 10), kOpaqueRed);
+    EXPECT_EQ(canvas.at(10, 30), 0u);
     c.Fill(kRed, Polygon(Rect(0, 0, 40, 40)));
     EXPECT_EQ(canvas.at(20, 20), kOpaqueRed);
 
