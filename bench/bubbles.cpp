@@ -1,7 +1,8 @@
-// Each speech bubble with a short fitting text drawn into a 512 by 512
-// Bitmap, against a plain cairo fill and stroke of the same outline plus a
-// plain pango layout and show of the same text; and a Basic bubble with
-// eight tails, whose draw unites them one by one.
+// Each speech and thought bubble with a short fitting text drawn into a 512
+// by 512 Bitmap, against a plain cairo fill and stroke of the same outlines
+// (a thought bubble's trail included) plus a plain pango layout and show of
+// the same text; and a Basic bubble with eight tails, whose draw unites them
+// one by one.
 #include "BenchTargets.h"
 
 #include <vantrel/Vantrel.h>
@@ -36,23 +37,28 @@ TextAttributeList attributes() {
 }
 
 // 0 to 7: the first and the second design of Basic, Urban, Bold and
-// Abstract; 8: the Basic bubble with eight tails.
-std::unique_ptr<BaseCallout> bubble(int which) {
+// Abstract; 8: the Basic bubble with eight tails; 9 to 16: the thought
+// bubbles in the order of the speech bubbles.
+std::unique_ptr<BaseCallout> bubble(int which, double strokeWidth = kStroke) {
     Presets::Theme const themes[] = {Presets::ThemeBasic, Presets::ThemeUrban, Presets::ThemeBold,
                                      Presets::ThemeAbstract};
     if (which == 8) {
         std::vector<Point> tails;
         for (int i = 0; i < 8; ++i)
             tails.push_back(Point::FromAngle(2 * kPi * i / 8 + 0.3) * 200);
-        auto *b =
-            new BasicSpeechBubble(kBox, CalloutProperties(kFill, "solid", Point(0, 1), kInk, kStroke, "solid"), tails);
+        auto *b = new BasicSpeechBubble(
+            kBox, CalloutProperties(kFill, "solid", Point(0, 1), kInk, strokeWidth, "solid"), tails);
         b->setTextCalloutProperties(text());
         b->setTextAttributeList(attributes());
         return std::unique_ptr<BaseCallout>(b);
     }
-    auto factory = which % 2 ? Presets::createSpeechBubbleTwo : Presets::createSpeechBubble;
-    return std::unique_ptr<BaseCallout>(factory(themes[which / 2], kFill, "solid", Point(0, 1), kInk, kStroke, "solid",
-                                                kBox, Point(120, 150), text(), attributes()));
+    bool const thought = which > 8;
+    if (thought)
+        which -= 9;
+    auto factory = thought ? (which % 2 ? Presets::createThoughtBubbleTwo : Presets::createThoughtBubble)
+                           : (which % 2 ? Presets::createSpeechBubbleTwo : Presets::createSpeechBubble);
+    return std::unique_ptr<BaseCallout>(factory(themes[which / 2], kFill, "solid", Point(0, 1), kInk, strokeWidth,
+                                                "solid", kBox, Point(120, 150), text(), attributes()));
 }
 
 void library(benchmark::State &state, int which) {
@@ -70,11 +76,25 @@ void library(benchmark::State &state, int which) {
 void cairoPango(benchmark::State &state, int which) {
     Bitmap bitmap(512, 512);
     bitmap.clear();
-    // pathAsPolygons lists the outline once for the fill and once for the stroke.
-    Polygons all = bubble(which)->pathAsPolygons(Rect());
-    std::vector<Polygon> outline;
-    for (size_t i = 0; i < all.polygons.size() / 2; ++i)
-        outline.push_back(*all.polygons[i]);
+    // pathAsPolygons lists what is filled and what is stroked in drawing
+    // order; without a stroke it lists the fills alone, which tells them apart.
+    Polygons const all = bubble(which)->pathAsPolygons(Rect());
+    Polygons const fills = bubble(which, 0)->pathAsPolygons(Rect());
+    std::vector<Polygon> filled, stroked;
+    size_t next = 0;
+    for (auto const &p : all.polygons) {
+        bool const isFill = next < fills.polygons.size() && fills.polygons[next]->points == p->points;
+        next += isFill ? 1 : 0;
+        (isFill ? filled : stroked).push_back(*p);
+    }
+    auto addPath = [](cairo_t *cr, std::vector<Polygon> const &polygons) {
+        cairo_new_path(cr);
+        for (Polygon const &p : polygons) {
+            for (size_t i = 0; i < p.points.size(); ++i)
+                (i ? cairo_line_to : cairo_move_to)(cr, p.points[i].x, p.points[i].y);
+            cairo_close_path(cr);
+        }
+    };
     cairo_surface_t *surface = cairo_image_surface_create_for_data(static_cast<unsigned char *>(bitmap.bitmapData()),
                                                                    CAIRO_FORMAT_ARGB32, 512, 512, 512 * 4);
     cairo_t *cr = cairo_create(surface);
@@ -83,14 +103,10 @@ void cairoPango(benchmark::State &state, int which) {
     pango_cairo_font_map_set_resolution(PANGO_CAIRO_FONT_MAP(map), 72.0);
     TextAttributeList a = attributes();
     for (auto _ : state) {
-        cairo_new_path(cr);
-        for (Polygon const &p : outline) {
-            for (size_t i = 0; i < p.points.size(); ++i)
-                (i ? cairo_line_to : cairo_move_to)(cr, p.points[i].x, p.points[i].y);
-            cairo_close_path(cr);
-        }
+        addPath(cr, filled);
         cairo_set_source_rgba(cr, kFill.red, kFill.green, kFill.blue, 1);
-        cairo_fill_preserve(cr);
+        cairo_fill(cr);
+        addPath(cr, stroked);
         cairo_set_line_width(cr, kStroke);
         cairo_set_source_rgba(cr, kInk.red, kInk.green, kInk.blue, 1);
         cairo_stroke(cr);
@@ -110,24 +126,28 @@ void cairoPango(benchmark::State &state, int which) {
     cairo_surface_destroy(surface);
 }
 
-char const *const kNames[] = {"basic",   "basicTwo", "urban",       "urbanTwo",   "bold",
-                              "boldTwo", "abstract", "abstractTwo", "basicTails8"};
+char const *const kNames[] = {
+    "basic",           "basicTwo",          "urban",           "urbanTwo",    "bold",
+    "boldTwo",         "abstract",          "abstractTwo",     "basicTails8", "thoughtBasic",
+    "thoughtBasicTwo", "thoughtUrban",      "thoughtUrbanTwo", "thoughtBold", "thoughtBoldTwo",
+    "thoughtAbstract", "thoughtAbstractTwo"};
 
 } // namespace
 
 int main(int argc, char **argv) {
     PangoFonts::setLoadFallbackFonts(false);
-    std::vector<std::string> measured, reference;
-    for (int i = 0; i < 9; ++i) {
+    std::vector<std::string> measured, reference, thoughtMeasured, thoughtReference;
+    for (int i = 0; i < 17; ++i) {
         benchmark::RegisterBenchmark((std::string("library/") + kNames[i]).c_str(), library, i);
         benchmark::RegisterBenchmark((std::string("cairoPango/") + kNames[i]).c_str(), cairoPango, i);
-        if (i < 8) {
-            measured.push_back(std::string("library/") + kNames[i]);
-            reference.push_back(std::string("cairoPango/") + kNames[i]);
+        if (i != 8) {
+            (i < 8 ? measured : thoughtMeasured).push_back(std::string("library/") + kNames[i]);
+            (i < 8 ? reference : thoughtReference).push_back(std::string("cairoPango/") + kNames[i]);
         }
     }
     return VantrelBench::runWithTargets(
         argc, argv,
         {{"speech-draw-vs-cairo-pango", measured, reference},
-         {"speech-tails8-vs-cairo-pango", {"library/basicTails8"}, {"cairoPango/basicTails8"}}});
+         {"speech-tails8-vs-cairo-pango", {"library/basicTails8"}, {"cairoPango/basicTails8"}},
+         {"thought-draw-vs-cairo-pango", thoughtMeasured, thoughtReference}});
 }

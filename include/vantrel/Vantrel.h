@@ -30,3 +30,4 @@
 #include <vantrel/callouts/shapes/CustomPath.h>
 #include <vantrel/callouts/shapes/Shapes.h>
 #include <vantrel/callouts/speech/SpeechBubbles.h>
+#include <vantrel/callouts/thought/ThoughtBubbles.h>

@@ -64,6 +64,28 @@ static int everyFamily() {
     failures += int(metadata.clusterRects.size()) == UTF8StringUtil::length(text) ? 0 : 1;
     failures += TextCalloutUtil::lineRanges(properties, attributes).empty() ? 1 : 0;
 
+    // Bubbles through their factories and their own classes.
+    BaseCallout *speech =
+        Presets::createSpeechBubble(Presets::ThemeUrban, ink, "solid", Point(0, 1), Color(0, 0, 0), 2, "solid",
+                                    properties.textRect, Point(80, 50), properties, attributes);
+    BaseCallout *thought =
+        Presets::createThoughtBubbleTwo(Presets::ThemeAbstract, ink, "gradient", Point(0, 1), Color(0, 0, 0), 2,
+                                        "solid", properties.textRect, Point(80, 50), properties, attributes);
+    failures += dynamic_cast<UrbanSpeechBubble *>(speech) ? 0 : 1;
+    failures += dynamic_cast<AbstractThoughtBubbleTwo *>(thought) ? 0 : 1;
+    BasicThoughtBubble cloud(properties.textRect, CalloutProperties(ink, "solid", Point(0, 1), ink, 1, "solid"),
+                             {Point(-80, 50), Point(80, 50)}, false);
+    for (BaseCallout *b : {speech, thought, static_cast<BaseCallout *>(&cloud)}) {
+        if (!b) {
+            ++failures;
+            continue;
+        }
+        b->drawIntoContext(&context, BaseCallout::DrawOptionAll, Rect(), -1, nullptr);
+        failures += b->boundingRect().Width() > 0 ? 0 : 1;
+    }
+    delete speech;
+    delete thought;
+
     Path path;
     path.AddArc(Point(0, 0), 20, 0, kPi);
     failures += path.Flattened(&context).points.size() > 2 ? 0 : 1;

@@ -28,25 +28,26 @@ Kind shape(std::string variant, std::string title, ShapeFactory factory, Color c
             }};
 }
 
-using SpeechFactory = BaseCallout *(*)(Presets::Theme, Color const &, std::string const &, Point const &, Color const &,
+using BubbleFactory = BaseCallout *(*)(Presets::Theme, Color const &, std::string const &, Point const &, Color const &,
                                        double, std::string const &, Rect const &, Point const &,
                                        TextCalloutProperties const &, TextAttributeList const &);
 
-// A speech bubble of the design. Several tails reach the Basic pair through
-// their constructor; the factories take one.
-template <class BasicDesign> Kind speech(std::string variant, std::string title, SpeechFactory factory) {
+// A speech or thought bubble of the design. The Basic pair's constructor
+// (made by basic from the style and the settings) takes several tails, or a
+// cloud that does not keep its proportions; the factories take one tail.
+template <class Basic>
+Kind bubble(std::string variant, std::string title, BubbleFactory factory, Basic basic,
+            bool (*needsBasic)(Settings const &)) {
     return {variant, title,
-            [factory](Presets::Theme theme, Settings const &s) -> BaseCallout * {
+            [factory, basic, needsBasic](Presets::Theme theme, Settings const &s) -> BaseCallout * {
                 // A bubble's text takes the outline's colour, which stands out on the fill.
                 Settings inked = s;
                 inked.color = s.stroke;
                 TextCalloutProperties const p = textProperties(inked);
                 TextAttributeList const a = textAttributes(inked);
-                if (theme == Presets::ThemeBasic && s.tails.size() > 1) {
-                    auto *b = new BasicDesign(
-                        s.box,
-                        CalloutProperties(s.fill, s.fillStyle, s.gradient, s.stroke, s.strokeWidth, s.strokeStyle),
-                        s.tails);
+                if (theme == Presets::ThemeBasic && needsBasic(s)) {
+                    TextCallout *b = basic(
+                        CalloutProperties(s.fill, s.fillStyle, s.gradient, s.stroke, s.strokeWidth, s.strokeStyle), s);
                     b->setTextCalloutProperties(p);
                     b->setTextAttributeList(a);
                     return b;
@@ -63,6 +64,31 @@ template <class BasicDesign> Kind speech(std::string variant, std::string title,
                 s.stroke = kInk;
                 s.strokeWidth = 2;
             }};
+}
+
+template <class BasicDesign> Kind speech(std::string variant, std::string title, BubbleFactory factory) {
+    return bubble(
+        variant, title, factory,
+        [](CalloutProperties const &style, Settings const &s) { return new BasicDesign(s.box, style, s.tails); },
+        [](Settings const &s) { return s.tails.size() > 1; });
+}
+
+template <class BasicDesign> Kind thought(std::string variant, std::string title, BubbleFactory factory) {
+    Kind kind = bubble(
+        variant, title, factory,
+        [](CalloutProperties const &style, Settings const &s) {
+            return new BasicDesign(s.box, style, s.tails, s.uniformCloud);
+        },
+        [](Settings const &s) { return s.tails.size() > 1 || !s.uniformCloud; });
+    kind.sample = [](Settings &s) {
+        s.box = Rect(-40, -14, 40, 14);
+        s.text = "Hmm...";
+        s.fontSize = 13;
+        s.fill = Color(0.85f, 0.8f, 1.0f);
+        s.stroke = kInk;
+        s.strokeWidth = 2;
+    };
+    return kind;
 }
 
 std::vector<Family> build() {
@@ -123,6 +149,11 @@ std::vector<Family> build() {
          "second design",
          {speech<BasicSpeechBubble>("", "speech bubble", Presets::createSpeechBubble),
           speech<BasicSpeechBubbleTwo>("two", "speech bubble, second design", Presets::createSpeechBubbleTwo)}},
+        {"thought",
+         "a thought bubble around --box with its text, linked to --tail; two\n(or --design two): the theme's "
+         "second design",
+         {thought<BasicThoughtBubble>("", "thought bubble", Presets::createThoughtBubble),
+          thought<BasicThoughtBubbleTwo>("two", "thought bubble, second design", Presets::createThoughtBubbleTwo)}},
     };
 }
 

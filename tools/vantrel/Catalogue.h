@@ -36,7 +36,8 @@ struct Settings {
     Vantrel::TextHorizontalAlignment align = Vantrel::Center;
     Vantrel::TextVerticalAlignment valign = Vantrel::Middle;
     std::string resize = "resizeText";
-    std::vector<Vantrel::Point> tails = {Vantrel::Point(120, 80)}; // speech: the first is the tail point
+    std::vector<Vantrel::Point> tails = {Vantrel::Point(120, 80)}; // bubbles: the first is the tail point
+    bool uniformCloud = true;                                      // the Basic thought clouds
 };
 
 // The text of a text-bearing kind: the settings' text in their box, font,

@@ -225,13 +225,13 @@ std::vector<Option> const &options() {
          [](Request &r, std::string const &, std::string const &) { r.variant = "fixed"; }},
         {{"--design"},
          "WHICH",
-         "speech: one or two, the theme's first or second design (default one)",
+         "speech, thought: one or two, the theme's first or second design (default\none)",
          [](Request &r, std::string const &f, std::string const &v) {
              r.variant = oneOf(f, v, {"one", "two"}) == "two" ? "two" : "";
          }},
         {{"--tail"},
          "X,Y",
-         "speech: a tail point (default 120,80); again for more tails, which the\nBasic designs draw",
+         "speech, thought: a tail point (default 120,80); again for more tails,\nwhich the Basic designs draw",
          [](Request &r, std::string const &f, std::string const &v) {
              std::vector<double> t = numbers(f, v, 2);
              if (!r.tailsGiven)
@@ -239,6 +239,10 @@ std::vector<Option> const &options() {
              r.tailsGiven = true;
              r.settings.tails.push_back(Point(t[0], t[1]));
          }},
+        {{"--no-uniform-cloud"},
+         "",
+         "thought: the Basic cloud stretches to the box instead of keeping its\nproportions",
+         [](Request &r, std::string const &, std::string const &) { r.settings.uniformCloud = false; }},
         {{"--reference"},
          "W,H",
          "speech: the reference rect's size, which the Basic designs shrink to",
@@ -264,7 +268,7 @@ std::vector<Option> const &options() {
          [](Request &r, std::string const &, std::string const &) { r.showOutlines = true; }},
         {{"--text"},
          "TEXT",
-         "text, speech: the text, UTF-8 (default a sample)",
+         "text, speech, thought: the text, UTF-8 (default a sample)",
          [](Request &r, std::string const &, std::string const &v) { r.settings.text = v; }},
         {{"--text-file"},
          "FILE",

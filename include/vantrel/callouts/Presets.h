@@ -80,6 +80,17 @@ public:
                                               Point const &gradientDirection, Color const &stroke, double strokeWidth,
                                               std::string const &strokeStyle, Rect const &rect, Point const &tailPoint,
                                               TextCalloutProperties const &text, TextAttributeList const &attributes);
+    // Thought bubbles around rect linked to tailPoint, the text installed;
+    // the Basic clouds keep their proportions. Null for ThemeModern and
+    // unknown themes.
+    static BaseCallout *createThoughtBubble(Theme theme, Color const &fill, std::string const &fillStyle,
+                                            Point const &gradientDirection, Color const &stroke, double strokeWidth,
+                                            std::string const &strokeStyle, Rect const &rect, Point const &tailPoint,
+                                            TextCalloutProperties const &text, TextAttributeList const &attributes);
+    static BaseCallout *createThoughtBubbleTwo(Theme theme, Color const &fill, std::string const &fillStyle,
+                                               Point const &gradientDirection, Color const &stroke, double strokeWidth,
+                                               std::string const &strokeStyle, Rect const &rect, Point const &tailPoint,
+                                               TextCalloutProperties const &text, TextAttributeList const &attributes);
 };
 
 } // namespace Vantrel

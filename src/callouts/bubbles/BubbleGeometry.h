@@ -30,6 +30,39 @@ inline double clampBetween(double low, double v, double high) { return low > v ?
 // A copy in which an inverted axis collapses onto its centre.
 Rect collapseInverted(Rect r);
 
+// The tail a one-tail design reads: the first, or for an empty list the
+// box's centre, which lies within the body and so gives no tail.
+inline Point firstTail(std::vector<Point> const &tails, Rect const &box) {
+    return tails.empty() ? box.Center() : tails.front();
+}
+
+// Unites with result, in list order, the tail tailOf makes for each of the
+// first limit tails that tailIndex selects (-1 for all): body and tails come
+// out as one contour where they touch.
+template <class TailOf>
+void uniteTails(Polygons &result, std::vector<Point> const &tails, size_t limit, int tailIndex, TailOf tailOf) {
+    for (size_t i = 0; i < tails.size() && i < limit; ++i) {
+        if (tailIndex != -1 && size_t(tailIndex) != i)
+            continue;
+        Polygons tail;
+        tail.Add(tailOf(tails[i]));
+        result = result.UnionWith(tail);
+    }
+}
+
+// Save on construction and Restore on destruction, so that a drawing call
+// that throws still leaves the context's state balanced.
+class SavedContextState {
+public:
+    explicit SavedContextState(DrawingContext *context) : context(context) { context->Save(); }
+    ~SavedContextState() { context->Restore(); }
+    SavedContextState(SavedContextState const &) = delete;
+    SavedContextState &operator=(SavedContextState const &) = delete;
+
+private:
+    DrawingContext *context;
+};
+
 // The base width of a tail whose tip lies out from body: minimum, growing
 // by tan(angle) per unit of distance, at most a quarter of the side it
 // leaves (the ceiling wins over the floor on a small body); minimum for a

@@ -1,7 +1,8 @@
 // The Abstract speech bubbles: a rounded rectangle with a tail off its
 // nearest edge, and an ellipse with a wedge out of a gap.
+#include <vantrel/callouts/speech/SpeechBubbles.h>
+
 #include "callouts/bubbles/BubbleGeometry.h"
-#include "callouts/speech/SpeechCommon.h"
 
 #include <cmath>
 

@@ -1,25 +1,13 @@
 // The Basic speech bubbles: a pill and a trapezoid, the only designs that
 // keep body and tails apart, read the tail index and the reference rect, and
 // take several tails.
+#include <vantrel/callouts/speech/SpeechBubbles.h>
+
 #include "callouts/bubbles/BubbleGeometry.h"
-#include "callouts/speech/SpeechCommon.h"
 
 namespace Vantrel {
 
 namespace {
-
-// The tails selected by tailIndex, each made by tailOf and united with the
-// outline so far: body and tails come out as one contour where they touch.
-template <class TailOf>
-void uniteTails(Polygons &result, std::vector<Point> const &tails, int tailIndex, TailOf tailOf) {
-    for (size_t i = 0; i < drawnTails(tails); ++i) {
-        if (tailIndex != -1 && size_t(tailIndex) != i)
-            continue;
-        Polygons tail;
-        tail.Add(tailOf(tails[i]));
-        result = result.UnionWith(tail);
-    }
-}
 
 // A box scaled about its centre by (sx, sy).
 Rect scaledAboutCentre(Rect const &b, double sx, double sy) {
@@ -67,7 +55,7 @@ void BasicSpeechBubble::drawIntoContext(DrawingContext *context, DrawOptions opt
         Rect const outer = Rect((-(W + H) * 0.5) * sx, (-H * 0.5) * sy, ((W + H) * 0.5) * sx, (H * 0.5) * sy)
                                .OffsettedRect(b.Center());
         bool const several = tails.size() > 1;
-        uniteTails(result, tails, tailIndex, [&](Point const &tail) {
+        uniteTails(result, tails, kMaxSpeechBubbleTails, tailIndex, [&](Point const &tail) {
             return several ? radialTail(tail, core.Center(), core.Height() * 0.25, outer.Size(), 4.0)
                            : stadiumTail(tail, core, outer.Size());
         });
@@ -111,7 +99,7 @@ void BasicSpeechBubbleTwo::drawIntoContext(DrawingContext *context, DrawOptions 
     }
     if (options & DrawOptionTail) {
         Rect const core = scaledAboutCentre(e, sx, sy);
-        uniteTails(result, tails, tailIndex, [&](Point const &tail) {
+        uniteTails(result, tails, kMaxSpeechBubbleTails, tailIndex, [&](Point const &tail) {
             return radialTail(tail, core.Center(), core.Height() * 0.25, core.Size(), 4.0);
         });
     }

@@ -1,7 +1,8 @@
 // The Bold speech bubbles, built once at construction: a circle with a wedge
 // out of a gap, and a sharp rectangle with a tail of base 60.
+#include <vantrel/callouts/speech/SpeechBubbles.h>
+
 #include "callouts/bubbles/BubbleGeometry.h"
-#include "callouts/speech/SpeechCommon.h"
 
 namespace Vantrel {
 

@@ -1,7 +1,8 @@
 // The Urban speech bubbles: a sharp rectangle whose tail stands with one side
 // on the tip, and a wider one filled in two strengths.
+#include <vantrel/callouts/speech/SpeechBubbles.h>
+
 #include "callouts/bubbles/BubbleGeometry.h"
-#include "callouts/speech/SpeechCommon.h"
 
 namespace Vantrel {
 

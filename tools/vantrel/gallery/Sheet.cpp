@@ -49,6 +49,7 @@ std::vector<Section> sections() {
     addLineSections(all);
     addTextSections(all);
     addSpeechSections(all);
+    addThoughtSections(all);
     return all;
 }
 
@@ -71,6 +72,18 @@ Tile kindTile(std::string const &label, ThemeName const &theme, Kind const &kind
                 if (callout)
                     draw(c, *callout);
             }};
+}
+
+Section tailPlacesSection(std::string const &title, Kind const &kind, std::vector<TailPlace> const &places) {
+    Section section{title, {}, int(places.size())};
+    for (ThemeName const &t : kThemes)
+        for (TailPlace const &place : places) {
+            Settings s;
+            kind.sample(s);
+            s.tails = {place.tail};
+            section.tiles.push_back(kindTile(std::string(t.name) + ", " + place.name, t, kind, s));
+        }
+    return section;
 }
 
 bool writeGallery(std::string const &path) {

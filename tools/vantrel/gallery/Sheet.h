@@ -38,6 +38,15 @@ void drawWithRects(Vantrel::CrossPlatformDrawingContext &c, Vantrel::BaseCallout
 Tile kindTile(std::string const &label, ThemeName const &theme, Kind const &kind, Settings const &settings,
               void (*draw)(Vantrel::CrossPlatformDrawingContext &, Vantrel::BaseCallout const &) = drawCallout);
 
+// A tail point by the name the gallery gives its place.
+struct TailPlace {
+    char const *name;
+    Vantrel::Point tail;
+};
+// A bubble kind in every theme with its one tail at each place, a row of
+// places per theme.
+Section tailPlacesSection(std::string const &title, Kind const &kind, std::vector<TailPlace> const &places);
+
 // The sections of each family, in the order the sheet shows them.
 void addDrawingSections(std::vector<Section> &all); // fills, strokes, pixels, paths, polygons
 void addShapeSections(std::vector<Section> &all);
@@ -45,5 +54,6 @@ void addUnionSection(std::vector<Section> &all);
 void addLineSections(std::vector<Section> &all);
 void addTextSections(std::vector<Section> &all);
 void addSpeechSections(std::vector<Section> &all);
+void addThoughtSections(std::vector<Section> &all);
 
 } // namespace VantrelTool

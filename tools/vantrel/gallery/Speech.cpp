@@ -10,27 +10,12 @@ namespace VantrelTool {
 
 void addSpeechSections(std::vector<Section> &all) {
     Family const &speech = *findFamily("speech");
-    struct Place {
-        char const *name;
-        Point tail;
-    } const places[] = {{"above", Point(30, -58)},
-                        {"right", Point(88, 12)},
-                        {"below left", Point(-75, 52)},
-                        {"inside", Point(10, 4)}};
-    for (Kind const &kind : speech.kinds) {
-        Section section{"Speech bubbles, " + std::string(kind.variant.empty() ? "first" : "second") +
-                            " design: tails above, right, below left and inside",
-                        {},
-                        4};
-        for (ThemeName const &t : kThemes)
-            for (Place const &place : places) {
-                Settings s;
-                kind.sample(s);
-                s.tails = {place.tail};
-                section.tiles.push_back(kindTile(std::string(t.name) + ", " + place.name, t, kind, s));
-            }
-        all.push_back(section);
-    }
+    std::vector<TailPlace> const places = {
+        {"above", Point(30, -58)}, {"right", Point(88, 12)}, {"below left", Point(-75, 52)}, {"inside", Point(10, 4)}};
+    for (Kind const &kind : speech.kinds)
+        all.push_back(tailPlacesSection("Speech bubbles, " + std::string(kind.variant.empty() ? "first" : "second") +
+                                            " design: tails above, right, below left and inside",
+                                        kind, places));
 
     Section basic{"Speech bubbles, Basic pair: three tails, a reference rect 90 wide, a tall narrow box", {}};
     for (Kind const &kind : speech.kinds) {
