@@ -23,6 +23,7 @@
 #include <vantrel/text/UTF8StringUtil.h>
 
 #include <vantrel/callouts/Presets.h>
+#include <vantrel/callouts/arrows/TextArrows.h>
 #include <vantrel/callouts/frame/BaseCallout.h>
 #include <vantrel/callouts/frame/TextCallout.h>
 #include <vantrel/callouts/lines/LineWithCaps.h>

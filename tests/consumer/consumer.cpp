@@ -73,9 +73,12 @@ static int everyFamily() {
                                         "solid", properties.textRect, Point(80, 50), properties, attributes);
     failures += dynamic_cast<UrbanSpeechBubble *>(speech) ? 0 : 1;
     failures += dynamic_cast<AbstractThoughtBubbleTwo *>(thought) ? 0 : 1;
+    BaseCallout *arrow = Presets::createTextArrow(Presets::ThemeUrban, ink, "solid", Point(0, 1), Color(0, 0, 0), 2,
+                                                  "solid", properties.textRect, 0.4, properties, attributes);
+    failures += dynamic_cast<UrbanTextArrow *>(arrow) ? 0 : 1;
     BasicThoughtBubble cloud(properties.textRect, CalloutProperties(ink, "solid", Point(0, 1), ink, 1, "solid"),
                              {Point(-80, 50), Point(80, 50)}, false);
-    for (BaseCallout *b : {speech, thought, static_cast<BaseCallout *>(&cloud)}) {
+    for (BaseCallout *b : {speech, thought, arrow, static_cast<BaseCallout *>(&cloud)}) {
         if (!b) {
             ++failures;
             continue;
@@ -85,6 +88,7 @@ static int everyFamily() {
     }
     delete speech;
     delete thought;
+    delete arrow;
 
     Path path;
     path.AddArc(Point(0, 0), 20, 0, kPi);

@@ -91,6 +91,29 @@ template <class BasicDesign> Kind thought(std::string variant, std::string title
     return kind;
 }
 
+using ArrowFactory = BaseCallout *(*)(Presets::Theme, Color const &, std::string const &, Point const &, Color const &,
+                                      double, std::string const &, Rect const &, double, TextCalloutProperties const &,
+                                      TextAttributeList const &);
+
+// A text arrow of the design; the progress reaches the Urban arrows.
+Kind textArrow(std::string variant, std::string title, ArrowFactory factory) {
+    return {variant, title,
+            [factory](Presets::Theme theme, Settings const &s) -> BaseCallout * {
+                Settings inked = s;
+                inked.color = s.stroke;
+                return factory(theme, s.fill, s.fillStyle, s.gradient, s.stroke, s.strokeWidth, s.strokeStyle, s.box,
+                               s.progress, textProperties(inked), textAttributes(inked));
+            },
+            [](Settings &s) {
+                s.box = Rect(-50, -9, 10, 9);
+                s.text = "This way";
+                s.fontSize = 12;
+                s.fill = Color(1.0f, 0.75f, 0.3f);
+                s.stroke = kInk;
+                s.strokeWidth = 2;
+            }};
+}
+
 std::vector<Family> build() {
     return {
         {"shape",
@@ -154,6 +177,10 @@ std::vector<Family> build() {
          "second design",
          {thought<BasicThoughtBubble>("", "thought bubble", Presets::createThoughtBubble),
           thought<BasicThoughtBubbleTwo>("two", "thought bubble, second design", Presets::createThoughtBubbleTwo)}},
+        {"text-arrow",
+         "an arrow around --box with its text, pointing right; two (or --design\ntwo): the theme's second design",
+         {textArrow("", "text arrow", Presets::createTextArrow),
+          textArrow("two", "text arrow, second design", Presets::createTextArrowTwo)}},
     };
 }
 

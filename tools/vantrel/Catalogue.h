@@ -38,6 +38,7 @@ struct Settings {
     std::string resize = "resizeText";
     std::vector<Vantrel::Point> tails = {Vantrel::Point(120, 80)}; // bubbles: the first is the tail point
     bool uniformCloud = true;                                      // the Basic thought clouds
+    double progress = 1.0;                                         // the Urban text arrows' reveal
 };
 
 // The text of a text-bearing kind: the settings' text in their box, font,

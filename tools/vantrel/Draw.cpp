@@ -6,7 +6,9 @@
 
 #include <algorithm>
 #include <cairo.h>
+#include <cctype>
 #include <cmath>
+#include <cstdio>
 #include <cstdlib>
 #include <fstream>
 #include <functional>
@@ -88,6 +90,7 @@ struct Request {
     int tailIndex = -1;
     Rect reference;
     bool showOutlines = false;
+    int frames = 0; // a reveal of this many pictures, the output a printf pattern
 };
 
 Presets::LineEndCapType capType(std::string const &option, std::string const &text) {
@@ -225,7 +228,7 @@ std::vector<Option> const &options() {
          [](Request &r, std::string const &, std::string const &) { r.variant = "fixed"; }},
         {{"--design"},
          "WHICH",
-         "speech, thought: one or two, the theme's first or second design (default\none)",
+         "speech, thought, text-arrow: one or two, the theme's first or second\ndesign (default one)",
          [](Request &r, std::string const &f, std::string const &v) {
              r.variant = oneOf(f, v, {"one", "two"}) == "two" ? "two" : "";
          }},
@@ -243,9 +246,23 @@ std::vector<Option> const &options() {
          "",
          "thought: the Basic cloud stretches to the box instead of keeping its\nproportions",
          [](Request &r, std::string const &, std::string const &) { r.settings.uniformCloud = false; }},
+        {{"--progress"},
+         "P",
+         "text-arrow: how far the Urban arrows have come in, 0 to 1 (default 1)",
+         [](Request &r, std::string const &f, std::string const &v) { r.settings.progress = numbers(f, v, 1)[0]; }},
+        {{"--frames"},
+         "N",
+         "text-arrow: N pictures of the reveal from progress 0 to 1, the output\nnaming each by a pattern such as "
+         "a-%03d.png",
+         [](Request &r, std::string const &f, std::string const &v) {
+             double const n = numbers(f, v, 1)[0];
+             if (!(n >= 1 && n <= 1000) || n != int(n))
+                 throw UsageError("bad value for --frames: expected a whole number from 1 to 1000");
+             r.frames = int(n);
+         }},
         {{"--reference"},
          "W,H",
-         "speech: the reference rect's size, which the Basic designs shrink to",
+         "speech, text-arrow: the reference rect's size, which the Basic designs\nshrink to",
          [](Request &r, std::string const &f, std::string const &v) {
              std::vector<double> s = numbers(f, v, 2);
              r.reference = Rect(0, 0, s[0], s[1]);
@@ -268,7 +285,7 @@ std::vector<Option> const &options() {
          [](Request &r, std::string const &, std::string const &) { r.showOutlines = true; }},
         {{"--text"},
          "TEXT",
-         "text, speech, thought: the text, UTF-8 (default a sample)",
+         "text and the bubbles and arrows: the text, UTF-8 (default a sample)",
          [](Request &r, std::string const &, std::string const &v) { r.settings.text = v; }},
         {{"--text-file"},
          "FILE",
@@ -433,6 +450,59 @@ std::string drawUsage() {
     return usage;
 }
 
+namespace {
+
+// One %d (with flags and a width at most), and no other conversion.
+bool isFramePattern(std::string const &pattern) {
+    int conversions = 0;
+    for (size_t i = 0; i < pattern.size(); ++i) {
+        if (pattern[i] != '%')
+            continue;
+        size_t j = i + 1;
+        while (j < pattern.size() && (std::isdigit((unsigned char)pattern[j]) || pattern[j] == '-'))
+            ++j;
+        if (j >= pattern.size() || pattern[j] != 'd' || j - i > 4)
+            return false;
+        ++conversions;
+        i = j;
+    }
+    return conversions == 1;
+}
+
+// The callout of kind in settings, drawn as the request asks into the PNG at
+// path: 0 when written, 1 when not; a UsageError for a callout without a
+// picture.
+int writePicture(Request const &r, Kind const &kind, Settings const &settings, std::string const &path) {
+    std::unique_ptr<BaseCallout> callout(kind.make(r.theme, settings));
+    if (!callout)
+        throw UsageError("theme " + r.themeName + " has no " + (r.variant.empty() ? "" : r.variant + " ") + r.family);
+    Rect bounds = callout->boundingRect().Expanded(r.margin);
+    RectInt pixels = bounds.ToContainingRectInt();
+    int64_t width = int64_t(pixels.right) - pixels.left, height = int64_t(pixels.bottom) - pixels.top;
+    if (width <= 0 || height <= 0 || width > 16000 || height > 16000)
+        throw UsageError("the callout's bounds " + std::to_string(width) + " by " + std::to_string(height) +
+                         " pixels do not make a picture (at most 16000 on a side)");
+    CrossPlatformDrawingContextWithBuiltInBitmap picture{int(width), int(height)};
+    picture.builtInBitmap()->clear();
+    picture.Translate(Point(-pixels.left, -pixels.top));
+    callout->drawIntoContext(&picture, BaseCallout::DrawOptions(r.options), r.reference, r.tailIndex, nullptr);
+    if (r.showOutlines) {
+        picture.Stroke(Color(0.1f, 0.7f, 0.2f), 1.5, "solid", callout->bodyPathAsPolygons(r.reference));
+        picture.Stroke(Color(0.9f, 0.1f, 0.2f), 1.5, "dash", callout->tailPathAsPolygons(r.tailIndex, r.reference));
+    }
+    if (auto *text = dynamic_cast<TextCallout *>(callout.get()); text && r.marks)
+        text->drawSelectionIntoContext(&picture, r.selection, Color(0.2f, 0.5f, 1.0f, 0.35f), Color(0.9f, 0.1f, 0.1f));
+    cairo_surface_t *surface = cairo_get_target(picture.Get());
+    cairo_surface_flush(surface);
+    if (cairo_surface_write_to_png(surface, path.c_str()) != CAIRO_STATUS_SUCCESS) {
+        std::cerr << "vantrel: could not write '" << path << "'\n";
+        return 1;
+    }
+    return 0;
+}
+
+} // namespace
+
 int runDraw(std::vector<std::string> const &args) {
     for (std::string const &a : args)
         if (a == "-h" || a == "--help") {
@@ -442,32 +512,17 @@ int runDraw(std::vector<std::string> const &args) {
     try {
         Request r = parse(args);
         Kind const &kind = *findKind(*findFamily(r.family), r.variant);
-        std::unique_ptr<BaseCallout> callout(kind.make(r.theme, r.settings));
-        if (!callout)
-            throw UsageError("theme " + r.themeName + " has no " + (r.variant.empty() ? "" : r.variant + " ") +
-                             r.family);
-        Rect bounds = callout->boundingRect().Expanded(r.margin);
-        RectInt pixels = bounds.ToContainingRectInt();
-        int64_t width = int64_t(pixels.right) - pixels.left, height = int64_t(pixels.bottom) - pixels.top;
-        if (width <= 0 || height <= 0 || width > 16000 || height > 16000)
-            throw UsageError("the callout's bounds " + std::to_string(width) + " by " + std::to_string(height) +
-                             " pixels do not make a picture (at most 16000 on a side)");
-        CrossPlatformDrawingContextWithBuiltInBitmap picture{int(width), int(height)};
-        picture.builtInBitmap()->clear();
-        picture.Translate(Point(-pixels.left, -pixels.top));
-        callout->drawIntoContext(&picture, BaseCallout::DrawOptions(r.options), r.reference, r.tailIndex, nullptr);
-        if (r.showOutlines) {
-            picture.Stroke(Color(0.1f, 0.7f, 0.2f), 1.5, "solid", callout->bodyPathAsPolygons(r.reference));
-            picture.Stroke(Color(0.9f, 0.1f, 0.2f), 1.5, "dash", callout->tailPathAsPolygons(r.tailIndex, r.reference));
-        }
-        if (auto *text = dynamic_cast<TextCallout *>(callout.get()); text && r.marks)
-            text->drawSelectionIntoContext(&picture, r.selection, Color(0.2f, 0.5f, 1.0f, 0.35f),
-                                           Color(0.9f, 0.1f, 0.1f));
-        cairo_surface_t *surface = cairo_get_target(picture.Get());
-        cairo_surface_flush(surface);
-        if (cairo_surface_write_to_png(surface, r.output.c_str()) != CAIRO_STATUS_SUCCESS) {
-            std::cerr << "vantrel: could not write '" << r.output << "'\n";
-            return 1;
+        if (r.frames == 0)
+            return writePicture(r, kind, r.settings, r.output);
+        if (!isFramePattern(r.output))
+            throw UsageError("--frames needs an output pattern with one %d, such as a-%03d.png");
+        for (int k = 0; k < r.frames; ++k) {
+            Settings frame = r.settings;
+            frame.progress = r.frames == 1 ? 1.0 : double(k) / (r.frames - 1);
+            std::vector<char> name(r.output.size() + 16);
+            std::snprintf(name.data(), name.size(), r.output.c_str(), k);
+            if (int status = writePicture(r, kind, frame, name.data()))
+                return status;
         }
         return 0;
     } catch (UsageError const &e) {

@@ -91,6 +91,17 @@ public:
                                                Point const &gradientDirection, Color const &stroke, double strokeWidth,
                                                std::string const &strokeStyle, Rect const &rect, Point const &tailPoint,
                                                TextCalloutProperties const &text, TextAttributeList const &attributes);
+    // Text arrows around rect, the text installed; the first design or the
+    // second (Two) of the theme. Only the Urban arrows read progress, their
+    // revealProgress. Null for ThemeModern and unknown themes.
+    static BaseCallout *createTextArrow(Theme theme, Color const &fill, std::string const &fillStyle,
+                                        Point const &gradientDirection, Color const &stroke, double strokeWidth,
+                                        std::string const &strokeStyle, Rect const &rect, double progress,
+                                        TextCalloutProperties const &text, TextAttributeList const &attributes);
+    static BaseCallout *createTextArrowTwo(Theme theme, Color const &fill, std::string const &fillStyle,
+                                           Point const &gradientDirection, Color const &stroke, double strokeWidth,
+                                           std::string const &strokeStyle, Rect const &rect, double progress,
+                                           TextCalloutProperties const &text, TextAttributeList const &attributes);
 };
 
 } // namespace Vantrel

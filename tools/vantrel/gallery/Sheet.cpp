@@ -50,6 +50,7 @@ std::vector<Section> sections() {
     addTextSections(all);
     addSpeechSections(all);
     addThoughtSections(all);
+    addArrowSections(all);
     return all;
 }
 

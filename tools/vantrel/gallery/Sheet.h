@@ -55,5 +55,6 @@ void addLineSections(std::vector<Section> &all);
 void addTextSections(std::vector<Section> &all);
 void addSpeechSections(std::vector<Section> &all);
 void addThoughtSections(std::vector<Section> &all);
+void addArrowSections(std::vector<Section> &all);
 
 } // namespace VantrelTool
