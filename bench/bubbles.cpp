@@ -4,12 +4,11 @@
 // the same text; and a Basic bubble with eight tails, whose draw unites them
 // one by one.
 #include "BenchTargets.h"
+#include "PlainReference.h"
 
 #include <vantrel/Vantrel.h>
 
-#include <cairo.h>
 #include <memory>
-#include <pango/pangocairo.h>
 
 using namespace Vantrel;
 
@@ -27,14 +26,7 @@ TextCalloutProperties text() {
     return p;
 }
 
-TextAttributeList attributes() {
-    TextAttributeList a;
-    Range all(0, int(kText.size()));
-    a.addFontNameAttribute(all, "DejaVu Sans");
-    a.addFontSizeAttribute(all, 18);
-    a.addFGColorAttribute(all, kInk);
-    return a;
-}
+TextAttributeList attributes() { return VantrelBench::plainAttributes(kText, 18, kInk); }
 
 // 0 to 7: the first and the second design of Basic, Urban, Bold and
 // Abstract; 8: the Basic bubble with eight tails; 9 to 16: the thought
@@ -71,59 +63,17 @@ void library(benchmark::State &state, int which) {
         b->drawIntoContext(&context, BaseCallout::DrawOptionAll, Rect(), -1, nullptr);
 }
 
-// The same outline filled and stroked by cairo, and the same text laid out
-// and shown by pango, on a font map of its own.
+// The same outlines filled and stroked by cairo, and the same text laid out
+// and shown by pango.
 void cairoPango(benchmark::State &state, int which) {
-    Bitmap bitmap(512, 512);
-    bitmap.clear();
-    // pathAsPolygons lists what is filled and what is stroked in drawing
-    // order; without a stroke it lists the fills alone, which tells them apart.
-    Polygons const all = bubble(which)->pathAsPolygons(Rect());
-    Polygons const fills = bubble(which, 0)->pathAsPolygons(Rect());
-    std::vector<Polygon> filled, stroked;
-    size_t next = 0;
-    for (auto const &p : all.polygons) {
-        bool const isFill = next < fills.polygons.size() && fills.polygons[next]->points == p->points;
-        next += isFill ? 1 : 0;
-        (isFill ? filled : stroked).push_back(*p);
-    }
-    auto addPath = [](cairo_t *cr, std::vector<Polygon> const &polygons) {
-        cairo_new_path(cr);
-        for (Polygon const &p : polygons) {
-            for (size_t i = 0; i < p.points.size(); ++i)
-                (i ? cairo_line_to : cairo_move_to)(cr, p.points[i].x, p.points[i].y);
-            cairo_close_path(cr);
-        }
-    };
-    cairo_surface_t *surface = cairo_image_surface_create_for_data(static_cast<unsigned char *>(bitmap.bitmapData()),
-                                                                   CAIRO_FORMAT_ARGB32, 512, 512, 512 * 4);
-    cairo_t *cr = cairo_create(surface);
-    cairo_translate(cr, 256, 256);
-    PangoFontMap *map = pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT);
-    pango_cairo_font_map_set_resolution(PANGO_CAIRO_FONT_MAP(map), 72.0);
-    TextAttributeList a = attributes();
+    VantrelBench::PlainOutlines const outlines = VantrelBench::recordOutlines(*bubble(which));
+    VantrelBench::PlainCanvas canvas;
+    TextAttributeList const a = attributes();
     for (auto _ : state) {
-        addPath(cr, filled);
-        cairo_set_source_rgba(cr, kFill.red, kFill.green, kFill.blue, 1);
-        cairo_fill(cr);
-        addPath(cr, stroked);
-        cairo_set_line_width(cr, kStroke);
-        cairo_set_source_rgba(cr, kInk.red, kInk.green, kInk.blue, 1);
-        cairo_stroke(cr);
-        PangoContext *context = pango_font_map_create_context(map);
-        PangoLayout *layout = pango_layout_new(context);
-        pango_layout_set_width(layout, pango_units_from_double(kBox.Width()));
-        pango_layout_set_alignment(layout, PANGO_ALIGN_CENTER);
-        pango_layout_set_attributes(layout, a.pangoAttrList());
-        pango_layout_set_text(layout, kText.data(), int(kText.size()));
-        cairo_move_to(cr, kBox.Left(), kBox.Top());
-        pango_cairo_show_layout(cr, layout);
-        g_object_unref(layout);
-        g_object_unref(context);
+        canvas.fill(outlines.filled, kFill);
+        canvas.stroke(outlines.stroked, kInk, kStroke);
+        canvas.showText(kText, a, kBox);
     }
-    g_object_unref(map);
-    cairo_destroy(cr);
-    cairo_surface_destroy(surface);
 }
 
 char const *const kNames[] = {

@@ -14,9 +14,11 @@ namespace Vantrel {
 
 class VANTREL_EXPORT Presets {
 public:
-    enum Theme { ThemeBasic = 0, ThemeModern = 1, ThemeUrban = 2, ThemeBold = 3, ThemeAbstract = 4 };
-    enum LineShaftType { LineShaftSolid = 0, LineShaftDotted = 1, LineShaftDashed = 2 };
-    enum LineEndCapType {
+    // Fixed to int, so that any number a host passes is a value of the type
+    // and reaches the documented result for one outside the list.
+    enum Theme : int { ThemeBasic = 0, ThemeModern = 1, ThemeUrban = 2, ThemeBold = 3, ThemeAbstract = 4 };
+    enum LineShaftType : int { LineShaftSolid = 0, LineShaftDotted = 1, LineShaftDashed = 2 };
+    enum LineEndCapType : int {
         LineEndCapNone = 0,
         LineEndCapCircle = 1,
         LineEndCapDiamond = 2,
