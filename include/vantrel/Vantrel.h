@@ -28,6 +28,7 @@
 #include <vantrel/callouts/frame/TextCallout.h>
 #include <vantrel/callouts/lines/LineWithCaps.h>
 #include <vantrel/callouts/lines/Lines.h>
+#include <vantrel/callouts/rectangles/TextRectangles.h>
 #include <vantrel/callouts/shapes/CustomPath.h>
 #include <vantrel/callouts/shapes/Shapes.h>
 #include <vantrel/callouts/speech/SpeechBubbles.h>

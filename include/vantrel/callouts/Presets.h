@@ -104,6 +104,12 @@ public:
                                            Point const &gradientDirection, Color const &stroke, double strokeWidth,
                                            std::string const &strokeStyle, Rect const &rect, double progress,
                                            TextCalloutProperties const &text, TextAttributeList const &attributes);
+    // A text rectangle around rect made with its text. Null for ThemeModern
+    // and unknown themes.
+    static BaseCallout *createTextRectangle(Theme theme, Color const &fill, std::string const &fillStyle,
+                                            Point const &gradientDirection, Color const &stroke, double strokeWidth,
+                                            std::string const &strokeStyle, Rect const &rect,
+                                            TextCalloutProperties const &text, TextAttributeList const &attributes);
 };
 
 } // namespace Vantrel

@@ -51,31 +51,6 @@ std::string what(Design const &d, Presets::Theme theme) {
 
 } // namespace
 
-TEST(SpeechBubbles, FactoriesPickTheClassByThemeAndInstallTheText) {
-    auto is = [](BaseCallout *c, auto *type) { return dynamic_cast<decltype(type)>(c) != nullptr; };
-    std::unique_ptr<BaseCallout> made[2][4];
-    for (int d = 0; d < 2; ++d)
-        for (int t = 0; t < 4; ++t) {
-            made[d][t] = bubble(kDesigns[d], kThemes[t], Point(0, -80), 0, kBox, "hi");
-            auto *text = dynamic_cast<TextCallout *>(made[d][t].get());
-            ASSERT_NE(text, nullptr) << what(kDesigns[d], kThemes[t]);
-            EXPECT_EQ(text->textCalloutProperties().text, "hi");
-            EXPECT_EQ(text->textAttributeList().pangoAttributes().size(), 1u);
-            EXPECT_EQ(text->bodyRect(), kBox);
-        }
-    EXPECT_TRUE(is(made[0][0].get(), (BasicSpeechBubble *)nullptr));
-    EXPECT_TRUE(is(made[0][1].get(), (UrbanSpeechBubble *)nullptr));
-    EXPECT_TRUE(is(made[0][2].get(), (BoldSpeechBubble *)nullptr));
-    EXPECT_TRUE(is(made[0][3].get(), (AbstractSpeechBubble *)nullptr));
-    EXPECT_TRUE(is(made[1][0].get(), (BasicSpeechBubbleTwo *)nullptr));
-    EXPECT_TRUE(is(made[1][1].get(), (UrbanSpeechBubbleTwo *)nullptr));
-    EXPECT_TRUE(is(made[1][2].get(), (BoldSpeechBubbleTwo *)nullptr));
-    EXPECT_TRUE(is(made[1][3].get(), (AbstractSpeechBubbleTwo *)nullptr));
-    for (Design const &d : kDesigns)
-        for (int theme : {int(Presets::ThemeModern), -1, 5})
-            EXPECT_EQ(bubble(d, Presets::Theme(theme), Point()), nullptr) << d.name << " " << theme;
-}
-
 TEST(SpeechBubbles, BoundsMatchTheInkOfAllEight) {
     for (Design const &d : kDesigns)
         for (Presets::Theme theme : kThemes)
