@@ -12,7 +12,7 @@ SANITIZE_ENV := G_SLICE=always-malloc ASAN_OPTIONS=detect_leaks=1:abort_on_error
                 LSAN_OPTIONS=suppressions=$(CURDIR)/tests/sanitizer/lsan.supp:print_suppressions=0 \
                 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
 
-.PHONY: all deps build test test-plain test-asan test-tsan gallery bench install clean
+.PHONY: all deps build test test-plain test-asan test-tsan gallery gallery-golden bench install clean
 
 all: build
 
@@ -41,6 +41,11 @@ test-tsan: deps
 gallery: build
 	build/tools/vantrel/vantrel gallery -o gallery.png
 	@echo "wrote gallery.png"
+
+# The image the gallery test compares with, after an intended change.
+gallery-golden: build
+	build/tools/vantrel/vantrel gallery -o tests/tool/gallery.png
+	@echo "wrote tests/tool/gallery.png"
 
 bench: deps
 	@cmake -S . -B build-bench -DCMAKE_BUILD_TYPE=Release -DVANTREL_BUILD_BENCH=ON -DVANTREL_BUILD_TESTS=OFF \

@@ -177,6 +177,24 @@ std::vector<Family> build() {
          "second design",
          {thought<BasicThoughtBubble>("", "thought bubble", Presets::createThoughtBubble),
           thought<BasicThoughtBubbleTwo>("two", "thought bubble, second design", Presets::createThoughtBubbleTwo)}},
+        {"text-rectangle",
+         "a text on the theme's panel around --box",
+         {{"", "text rectangle",
+           [](Presets::Theme theme, Settings const &s) {
+               Settings inked = s;
+               inked.color = s.stroke;
+               return Presets::createTextRectangle(theme, s.fill, s.fillStyle, s.gradient, s.stroke, s.strokeWidth,
+                                                   s.strokeStyle, s.box, textProperties(inked), textAttributes(inked));
+           },
+           [](Settings &s) {
+               s.box = Rect(-55, -14, 55, 14);
+               s.text = "Chapter one";
+               s.fontSize = 14;
+               s.fill = Color(0.95f, 0.9f, 0.6f);
+               s.fillStyle = "gradient";
+               s.stroke = kInk;
+               s.strokeWidth = 2;
+           }}}},
         {"text-arrow",
          "an arrow around --box with its text, pointing right; two (or --design\ntwo): the theme's second design",
          {textArrow("", "text arrow", Presets::createTextArrow),

@@ -355,6 +355,20 @@ std::string variantsOf(Family const &family) {
     return names.empty() ? "" : hasDefault ? "[" + names + "]" : names;
 }
 
+// The themes in which the kind is made, by the library's own answer.
+std::string themesOf(Kind const &kind) {
+    std::string names;
+    size_t count = 0;
+    for (ThemeName const &t : kThemes) {
+        std::unique_ptr<BaseCallout> made(kind.make(t.theme, Settings()));
+        if (made) {
+            names += (names.empty() ? "" : ", ") + std::string(t.name);
+            ++count;
+        }
+    }
+    return count == kThemes.size() ? "every theme" : names;
+}
+
 std::string padded(std::string text, size_t column) {
     text.resize(std::max(text.size() + 2, column), ' ');
     return text;
@@ -438,6 +452,9 @@ std::string drawUsage() {
         std::string variants = variantsOf(f);
         usage +=
             padded("  " + f.name + (variants.empty() ? "" : " " + variants), kindColumn) + indented(f.help, kindColumn);
+        for (Kind const &k : f.kinds)
+            usage +=
+                std::string(kindColumn, ' ') + (k.variant.empty() ? "themes: " : k.variant + ": ") + themesOf(k) + "\n";
     }
     usage += "\nOptions:\n";
     size_t const column = 28;

@@ -1,6 +1,7 @@
 // vantrel: renders the library's callouts to PNG files.
 #include "Draw.h"
 #include "Gallery.h"
+#include "PresetsTable.h"
 
 #include <cstring>
 #include <iostream>
@@ -18,6 +19,8 @@ Commands:
                         so that transparency shows, and write it to FILE.png
   draw KIND ...         draw one callout to a PNG; 'vantrel draw --help' lists
                         every kind, theme and option
+  presets               print the class each Presets function makes in each
+                        theme, or null
   help                  show this text
 
 Options:
@@ -69,5 +72,7 @@ int main(int argc, char **argv) {
         return VantrelTool::runDraw(args);
     if (command == "gallery")
         return runGallery(args);
+    if (command == "presets")
+        return VantrelTool::runPresets(args);
     return usageError("unknown command '" + command + "'");
 }

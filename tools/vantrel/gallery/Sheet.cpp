@@ -43,6 +43,7 @@ void drawLabel(cairo_t *cr, std::string const &text, double x, double y, double 
 
 std::vector<Section> sections() {
     std::vector<Section> all;
+    addOverviewSection(all);
     addDrawingSections(all);
     addShapeSections(all);
     addUnionSection(all);
@@ -51,6 +52,7 @@ std::vector<Section> sections() {
     addSpeechSections(all);
     addThoughtSections(all);
     addArrowSections(all);
+    addRectangleSections(all);
     return all;
 }
 

@@ -56,5 +56,7 @@ void addTextSections(std::vector<Section> &all);
 void addSpeechSections(std::vector<Section> &all);
 void addThoughtSections(std::vector<Section> &all);
 void addArrowSections(std::vector<Section> &all);
+void addOverviewSection(std::vector<Section> &all);
+void addRectangleSections(std::vector<Section> &all);
 
 } // namespace VantrelTool
