@@ -6,6 +6,8 @@
 
 #include <vantrel/Vantrel.h>
 
+#include <benchmark/benchmark.h>
+
 #include <cairo.h>
 #include <pango/pangocairo.h>
 
@@ -137,5 +139,29 @@ private:
     cairo_t *cr;
     PangoFontMap *map;
 };
+
+// The library's side: the callout drawn whole into the canvas's size.
+inline void drawWithLibrary(benchmark::State &state, Vantrel::BaseCallout const &callout) {
+    Vantrel::Bitmap bitmap(512, 512);
+    bitmap.clear();
+    Vantrel::CrossPlatformDrawingContext context(&bitmap);
+    context.Translate(Vantrel::Point(256, 256));
+    for (auto _ : state)
+        callout.drawIntoContext(&context, Vantrel::BaseCallout::DrawOptionAll, Vantrel::Rect(), -1, nullptr);
+}
+
+// The reference side: the callout's outlines filled in fill and stroked in
+// ink, and its text shown, by cairo and pango alone.
+inline void drawPlainly(benchmark::State &state, Vantrel::BaseCallout const &callout, Vantrel::Color const &fill,
+                        Vantrel::Color const &ink, double strokeWidth, std::string const &text,
+                        Vantrel::TextAttributeList const &attributes, Vantrel::Rect const &box) {
+    PlainOutlines const outlines = recordOutlines(callout);
+    PlainCanvas canvas;
+    for (auto _ : state) {
+        canvas.fill(outlines.filled, fill);
+        canvas.stroke(outlines.stroked, ink, strokeWidth);
+        canvas.showText(text, attributes, box);
+    }
+}
 
 } // namespace VantrelBench

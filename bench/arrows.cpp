@@ -34,25 +34,10 @@ std::unique_ptr<BaseCallout> arrow(int which, double strokeWidth = kStroke, doub
                                                 "solid", kBox, progress, text, attributes()));
 }
 
-void library(benchmark::State &state, int which) {
-    Bitmap bitmap(512, 512);
-    bitmap.clear();
-    CrossPlatformDrawingContext context(&bitmap);
-    context.Translate(Point(256, 256));
-    std::unique_ptr<BaseCallout> a = arrow(which);
-    for (auto _ : state)
-        a->drawIntoContext(&context, BaseCallout::DrawOptionAll, Rect(), -1, nullptr);
-}
+void library(benchmark::State &state, int which) { VantrelBench::drawWithLibrary(state, *arrow(which)); }
 
 void cairoPango(benchmark::State &state, int which) {
-    VantrelBench::PlainOutlines const outlines = VantrelBench::recordOutlines(*arrow(which));
-    VantrelBench::PlainCanvas canvas;
-    TextAttributeList const a = attributes();
-    for (auto _ : state) {
-        canvas.fill(outlines.filled, kFill);
-        canvas.stroke(outlines.stroked, kInk, kStroke);
-        canvas.showText(kText, a, kBox);
-    }
+    VantrelBench::drawPlainly(state, *arrow(which), kFill, kInk, kStroke, kText, attributes(), kBox);
 }
 
 double progressOf(int frame) { return double(frame) / (kFrames - 1); }

@@ -53,27 +53,10 @@ std::unique_ptr<BaseCallout> bubble(int which, double strokeWidth = kStroke) {
                                                 "solid", kBox, Point(120, 150), text(), attributes()));
 }
 
-void library(benchmark::State &state, int which) {
-    Bitmap bitmap(512, 512);
-    bitmap.clear();
-    CrossPlatformDrawingContext context(&bitmap);
-    context.Translate(Point(256, 256));
-    std::unique_ptr<BaseCallout> b = bubble(which);
-    for (auto _ : state)
-        b->drawIntoContext(&context, BaseCallout::DrawOptionAll, Rect(), -1, nullptr);
-}
+void library(benchmark::State &state, int which) { VantrelBench::drawWithLibrary(state, *bubble(which)); }
 
-// The same outlines filled and stroked by cairo, and the same text laid out
-// and shown by pango.
 void cairoPango(benchmark::State &state, int which) {
-    VantrelBench::PlainOutlines const outlines = VantrelBench::recordOutlines(*bubble(which));
-    VantrelBench::PlainCanvas canvas;
-    TextAttributeList const a = attributes();
-    for (auto _ : state) {
-        canvas.fill(outlines.filled, kFill);
-        canvas.stroke(outlines.stroked, kInk, kStroke);
-        canvas.showText(kText, a, kBox);
-    }
+    VantrelBench::drawPlainly(state, *bubble(which), kFill, kInk, kStroke, kText, attributes(), kBox);
 }
 
 char const *const kNames[] = {

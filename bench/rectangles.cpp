@@ -31,25 +31,10 @@ std::unique_ptr<BaseCallout> rectangle(int which) {
                                                                      kStroke, "solid", kBox, text, attributes()));
 }
 
-void library(benchmark::State &state, int which) {
-    Bitmap bitmap(512, 512);
-    bitmap.clear();
-    CrossPlatformDrawingContext context(&bitmap);
-    context.Translate(Point(256, 256));
-    std::unique_ptr<BaseCallout> r = rectangle(which);
-    for (auto _ : state)
-        r->drawIntoContext(&context, BaseCallout::DrawOptionAll, Rect(), -1, nullptr);
-}
+void library(benchmark::State &state, int which) { VantrelBench::drawWithLibrary(state, *rectangle(which)); }
 
 void cairoPango(benchmark::State &state, int which) {
-    VantrelBench::PlainOutlines const outlines = VantrelBench::recordOutlines(*rectangle(which));
-    VantrelBench::PlainCanvas canvas;
-    TextAttributeList const a = attributes();
-    for (auto _ : state) {
-        canvas.fill(outlines.filled, kFill);
-        canvas.stroke(outlines.stroked, kInk, kStroke);
-        canvas.showText(kText, a, kBox);
-    }
+    VantrelBench::drawPlainly(state, *rectangle(which), kFill, kInk, kStroke, kText, attributes(), kBox);
 }
 
 void bounds(benchmark::State &state, int which) {

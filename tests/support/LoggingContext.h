@@ -6,6 +6,7 @@
 #include <vantrel/Vantrel.h>
 
 #include <sstream>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -111,6 +112,31 @@ private:
             calls.push_back(count < 0 ? what : what + std::to_string(count));
     }
     int depth = 0;
+};
+
+// Counts Save and Restore, and throws from every fill in a plain colour, as
+// an allocation failure would: for checking that drawing code that saves the
+// context restores it on the way out.
+class ThrowingContext : public LoggingContext {
+public:
+    int saves = 0, restores = 0;
+    void Save() override {
+        ++saves;
+        LoggingContext::Save();
+    }
+    void Restore() override {
+        ++restores;
+        LoggingContext::Restore();
+    }
+    using LoggingContext::Fill;
+    using LoggingContext::FillEllipse;
+    using LoggingContext::FillPath;
+    void Fill(Vantrel::Color const &, Vantrel::Polygons const &) override { fail(); }
+    void FillEllipse(Vantrel::Color const &, Vantrel::Rect const &) override { fail(); }
+    void FillPath(Vantrel::Color const &, Vantrel::Path const &) override { fail(); }
+
+private:
+    static void fail() { throw std::runtime_error("out of memory"); }
 };
 
 } // namespace VantrelTest

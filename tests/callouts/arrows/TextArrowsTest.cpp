@@ -64,22 +64,6 @@ Rect bounds(Polygons const &p) {
     return Rect::BoundingRectOfPoints(all);
 }
 
-// Counts Save and Restore, and throws from the first fill.
-class ThrowingContext : public VantrelTest::LoggingContext {
-public:
-    int saves = 0, restores = 0;
-    void Save() override {
-        ++saves;
-        LoggingContext::Save();
-    }
-    void Restore() override {
-        ++restores;
-        LoggingContext::Restore();
-    }
-    using LoggingContext::Fill;
-    void Fill(Color const &, Polygon const &) override { throw std::runtime_error("out of memory"); }
-};
-
 } // namespace
 
 TEST(TextArrows, FactoriesPassTheProgressToUrbanOnly) {
@@ -125,7 +109,7 @@ TEST(TextArrows, WhatEachDesignPaints) {
     EXPECT_EQ(calls(*make(kAll[4])), std::vector<std::string>{"fill colour n=1"});
     // The Basic pair restore the context when a drawing call throws.
     for (size_t i : {2, 3}) {
-        ThrowingContext context;
+        VantrelTest::ThrowingContext context;
         EXPECT_THROW(make(kAll[i], 2)->drawIntoContext(&context, BaseCallout::DrawOptionAll, Rect(), -1, nullptr),
                      std::runtime_error);
         EXPECT_EQ(context.saves, 1);

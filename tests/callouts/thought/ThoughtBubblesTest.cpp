@@ -80,22 +80,6 @@ Rect bounds(Polygons const &p) {
     return Rect::BoundingRectOfPoints(all);
 }
 
-// Counts Save and Restore, and throws from the body's fill when asked.
-class ThrowingContext : public VantrelTest::LoggingContext {
-public:
-    int saves = 0, restores = 0;
-    void Save() override {
-        ++saves;
-        LoggingContext::Save();
-    }
-    void Restore() override {
-        ++restores;
-        LoggingContext::Restore();
-    }
-    using LoggingContext::FillPath;
-    void FillPath(Color const &, Path const &) override { throw std::runtime_error("out of memory"); }
-};
-
 } // namespace
 
 TEST(ThoughtBubbles, FactoriesPickTheClassByThemeWithAUniformCloud) {
@@ -181,7 +165,7 @@ TEST(ThoughtBubbles, TrailsPaintSmallThenBigThenBodyAtTheirAlphas) {
 }
 
 TEST(ThoughtBubbles, AThrowingCallStillRestoresTheContext) {
-    ThrowingContext context;
+    VantrelTest::ThrowingContext context;
     std::unique_ptr<TextCallout> b = make(kAll[0], Point(120, 90), 2);
     EXPECT_THROW(b->drawIntoContext(&context, BaseCallout::DrawOptionAll, Rect(), -1, nullptr), std::runtime_error);
     EXPECT_EQ(context.saves, 1);
