@@ -13,16 +13,6 @@ template <class Arrow> BaseCallout *withoutProgress(TextCalloutRequest const &re
     return makeTextCallout<Arrow>(request);
 }
 
-BaseCallout *makeArrow(ThemeTable<double> const &table, Presets::Theme theme, Color const &fill,
-                       std::string const &fillStyle, Point const &gradientDirection, Color const &stroke,
-                       double strokeWidth, std::string const &strokeStyle, Rect const &rect, double progress,
-                       TextCalloutProperties const &text, TextAttributeList const &attributes) {
-    return table.make(theme,
-                      {CalloutProperties(fill, fillStyle, gradientDirection, stroke, strokeWidth, strokeStyle), rect,
-                       text, attributes},
-                      progress);
-}
-
 } // namespace
 
 BaseCallout *Presets::createTextArrow(Theme theme, Color const &fill, std::string const &fillStyle,
@@ -32,8 +22,10 @@ BaseCallout *Presets::createTextArrow(Theme theme, Color const &fill, std::strin
     static ThemeTable<double> const table{{&withoutProgress<BasicTextArrow>, nullptr,
                                            &makeTextCallout<UrbanTextArrow, double>, &withoutProgress<BoldTextArrow>,
                                            &withoutProgress<AbstractTextArrow>}};
-    return makeArrow(table, theme, fill, fillStyle, gradientDirection, stroke, strokeWidth, strokeStyle, rect, progress,
-                     text, attributes);
+    return table.make(theme,
+                      textCalloutRequest(fill, fillStyle, gradientDirection, stroke, strokeWidth, strokeStyle, rect,
+                                         text, attributes),
+                      progress);
 }
 
 BaseCallout *Presets::createTextArrowTwo(Theme theme, Color const &fill, std::string const &fillStyle,
@@ -43,8 +35,10 @@ BaseCallout *Presets::createTextArrowTwo(Theme theme, Color const &fill, std::st
     static ThemeTable<double> const table{{&withoutProgress<BasicTextArrowTwo>, nullptr,
                                            &makeTextCallout<UrbanTextArrowTwo, double>,
                                            &withoutProgress<BoldTextArrowTwo>, &withoutProgress<AbstractTextArrowTwo>}};
-    return makeArrow(table, theme, fill, fillStyle, gradientDirection, stroke, strokeWidth, strokeStyle, rect, progress,
-                     text, attributes);
+    return table.make(theme,
+                      textCalloutRequest(fill, fillStyle, gradientDirection, stroke, strokeWidth, strokeStyle, rect,
+                                         text, attributes),
+                      progress);
 }
 
 } // namespace Vantrel

@@ -16,6 +16,16 @@ struct TextCalloutRequest {
     TextAttributeList const &attributes;
 };
 
+// A factory's own arguments as a request: the six style values, the body
+// rect and the text.
+inline TextCalloutRequest textCalloutRequest(Color const &fill, std::string const &fillStyle,
+                                             Point const &gradientDirection, Color const &stroke, double strokeWidth,
+                                             std::string const &strokeStyle, Rect const &rect,
+                                             TextCalloutProperties const &text, TextAttributeList const &attributes) {
+    return {CalloutProperties(fill, fillStyle, gradientDirection, stroke, strokeWidth, strokeStyle), rect, text,
+            attributes};
+}
+
 // The four steps: the class is the template argument, the style values are
 // in the request, createWithTextBox(bodyRect, style, extra...) makes it, and
 // the text goes in before the attributes.

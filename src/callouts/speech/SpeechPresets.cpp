@@ -15,8 +15,8 @@ BaseCallout *Presets::createSpeechBubble(Theme theme, Color const &fill, std::st
                                                   &makeTextCallout<BoldSpeechBubble, Point const &>,
                                                   &makeTextCallout<AbstractSpeechBubble, Point const &>}};
     return table.make(theme,
-                      {CalloutProperties(fill, fillStyle, gradientDirection, stroke, strokeWidth, strokeStyle), rect,
-                       text, attributes},
+                      textCalloutRequest(fill, fillStyle, gradientDirection, stroke, strokeWidth, strokeStyle, rect,
+                                         text, attributes),
                       tailPoint);
 }
 
@@ -29,8 +29,8 @@ BaseCallout *Presets::createSpeechBubbleTwo(Theme theme, Color const &fill, std:
                                                   &makeTextCallout<BoldSpeechBubbleTwo, Point const &>,
                                                   &makeTextCallout<AbstractSpeechBubbleTwo, Point const &>}};
     return table.make(theme,
-                      {CalloutProperties(fill, fillStyle, gradientDirection, stroke, strokeWidth, strokeStyle), rect,
-                       text, attributes},
+                      textCalloutRequest(fill, fillStyle, gradientDirection, stroke, strokeWidth, strokeStyle, rect,
+                                         text, attributes),
                       tailPoint);
 }
 

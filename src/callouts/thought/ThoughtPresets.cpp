@@ -13,16 +13,6 @@ template <class Cloud> BaseCallout *makeUniformCloud(TextCalloutRequest const &r
     return makeTextCallout<Cloud, Point const &, bool>(request, tail, true);
 }
 
-BaseCallout *makeThought(ThemeTable<Point const &> const &table, Presets::Theme theme, Color const &fill,
-                         std::string const &fillStyle, Point const &gradientDirection, Color const &stroke,
-                         double strokeWidth, std::string const &strokeStyle, Rect const &rect, Point const &tailPoint,
-                         TextCalloutProperties const &text, TextAttributeList const &attributes) {
-    return table.make(theme,
-                      {CalloutProperties(fill, fillStyle, gradientDirection, stroke, strokeWidth, strokeStyle), rect,
-                       text, attributes},
-                      tailPoint);
-}
-
 } // namespace
 
 BaseCallout *Presets::createThoughtBubble(Theme theme, Color const &fill, std::string const &fillStyle,
@@ -32,8 +22,10 @@ BaseCallout *Presets::createThoughtBubble(Theme theme, Color const &fill, std::s
     static ThemeTable<Point const &> const table{
         {&makeUniformCloud<BasicThoughtBubble>, nullptr, &makeTextCallout<UrbanThoughtBubble, Point const &>,
          &makeTextCallout<BoldThoughtBubble, Point const &>, &makeTextCallout<AbstractThoughtBubble, Point const &>}};
-    return makeThought(table, theme, fill, fillStyle, gradientDirection, stroke, strokeWidth, strokeStyle, rect,
-                       tailPoint, text, attributes);
+    return table.make(theme,
+                      textCalloutRequest(fill, fillStyle, gradientDirection, stroke, strokeWidth, strokeStyle, rect,
+                                         text, attributes),
+                      tailPoint);
 }
 
 BaseCallout *Presets::createThoughtBubbleTwo(Theme theme, Color const &fill, std::string const &fillStyle,
@@ -44,8 +36,10 @@ BaseCallout *Presets::createThoughtBubbleTwo(Theme theme, Color const &fill, std
                                                   &makeTextCallout<UrbanThoughtBubbleTwo, Point const &>,
                                                   &makeTextCallout<BoldThoughtBubbleTwo, Point const &>,
                                                   &makeTextCallout<AbstractThoughtBubbleTwo, Point const &>}};
-    return makeThought(table, theme, fill, fillStyle, gradientDirection, stroke, strokeWidth, strokeStyle, rect,
-                       tailPoint, text, attributes);
+    return table.make(theme,
+                      textCalloutRequest(fill, fillStyle, gradientDirection, stroke, strokeWidth, strokeStyle, rect,
+                                         text, attributes),
+                      tailPoint);
 }
 
 } // namespace Vantrel
