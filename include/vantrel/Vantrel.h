@@ -33,3 +33,5 @@
 #include <vantrel/callouts/shapes/Shapes.h>
 #include <vantrel/callouts/speech/SpeechBubbles.h>
 #include <vantrel/callouts/thought/ThoughtBubbles.h>
+
+#include <vantrel/editing/TextEditingSession.h>

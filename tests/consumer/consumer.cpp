@@ -151,6 +151,25 @@ static int everyFamily() {
         failures += b->boundingRect().Width() > 0 ? 0 : 1;
     }
 
+    // An editing session with a deferred observer around a batch.
+    struct Counter : TextEditingSessionObserver {
+        int calls = 0;
+        void textChanged() override { ++calls; }
+        void selectionChanged() override { ++calls; }
+        bool isRightToLeftLanguage(std::string const &t) override { return UTF8StringUtil::isRightToLeftLanguage(t); }
+    } counter;
+    TextEditingSession session(&callout, &counter);
+    {
+        ScopedDeferredTextEditingSessionObserver deferred(&counter);
+        session.setObserver(&deferred);
+        session.selectAll();
+        session.moveSelectionWordLeftAndModifySelection();
+        session.updateTextAndAttributes(text + "!", attributes, false);
+        session.setObserver(&counter);
+    }
+    failures += counter.calls == 2 && session.selection() == Range(0, 7) ? 0 : 1;
+    callout.drawSelectionIntoContext(&context, session.selection(), Color(0, 0, 1, 0.3f), Color(1, 0, 0));
+
     Path path;
     path.AddArc(Point(0, 0), 20, 0, kPi);
     failures += path.Flattened(&context).points.size() > 2 ? 0 : 1;

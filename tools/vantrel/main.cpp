@@ -1,5 +1,6 @@
 // vantrel: renders the library's callouts to PNG files.
 #include "Draw.h"
+#include "Edit.h"
 #include "Gallery.h"
 #include "PresetsTable.h"
 
@@ -19,6 +20,9 @@ Commands:
                         so that transparency shows, and write it to FILE.png
   draw KIND ...         draw one callout to a PNG; 'vantrel draw --help' lists
                         every kind, theme and option
+  edit                  replay caret moves, clicks and selections on a text
+                        callout and draw the result; 'vantrel edit --help'
+                        lists the operations
   presets               print the class each Presets function makes in each
                         theme, or null
   help                  show this text
@@ -65,13 +69,15 @@ int main(int argc, char **argv) {
     std::string command = args.front();
     args.erase(args.begin());
     if (command == "-h" || command == "--help" || command == "help") {
-        std::cout << kUsage << '\n' << VantrelTool::drawUsage();
+        std::cout << kUsage << '\n' << VantrelTool::drawUsage() << '\n' << VantrelTool::editUsage();
         return 0;
     }
     if (command == "draw")
         return VantrelTool::runDraw(args);
     if (command == "gallery")
         return runGallery(args);
+    if (command == "edit")
+        return VantrelTool::runEdit(args);
     if (command == "presets")
         return VantrelTool::runPresets(args);
     return usageError("unknown command '" + command + "'");

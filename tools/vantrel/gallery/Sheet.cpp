@@ -53,6 +53,7 @@ std::vector<Section> sections() {
     addThoughtSections(all);
     addArrowSections(all);
     addRectangleSections(all);
+    addEditingSections(all);
     return all;
 }
 

@@ -58,5 +58,6 @@ void addThoughtSections(std::vector<Section> &all);
 void addArrowSections(std::vector<Section> &all);
 void addOverviewSection(std::vector<Section> &all);
 void addRectangleSections(std::vector<Section> &all);
+void addEditingSections(std::vector<Section> &all);
 
 } // namespace VantrelTool

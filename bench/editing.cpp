@@ -1,0 +1,107 @@
+// A text editing session on a text of 500 characters over several lines:
+// installing a text that fits against one plain pango layout of the same
+// text and attributes, the hit test of a click, and a line move.
+#include "BenchTargets.h"
+
+#include <vantrel/Vantrel.h>
+
+#include <iostream>
+#include <pango/pangocairo.h>
+
+using namespace Vantrel;
+
+namespace {
+
+Rect const kBox(-300, -200, 300, 200);
+
+std::string sampleText() {
+    std::string const sentence = "The quick brown fox jumps over the lazy dog once more. ";
+    std::string text;
+    for (int line = 0; text.size() + sentence.size() < 500; ++line)
+        text += sentence + (line % 3 == 2 ? "\n" : "");
+    text.resize(500, '.');
+    return text;
+}
+
+std::string const kText = sampleText();
+
+TextAttributeList attributes(std::string const &text) {
+    TextAttributeList a;
+    Range all(0, int(text.size()));
+    a.addFontNameAttribute(all, "DejaVu Sans");
+    a.addFontSizeAttribute(all, 14);
+    a.addFGColorAttribute(all, Color(0.1f, 0.1f, 0.3f));
+    return a;
+}
+
+TextCallout callout() {
+    TextCalloutProperties p;
+    p.text = kText;
+    p.textRect = kBox;
+    return TextCallout(kBox, p, attributes(kText));
+}
+
+void update(benchmark::State &state) {
+    TextCallout c = callout();
+    TextEditingSession session(&c, nullptr);
+    TextAttributeList const a = attributes(kText);
+    for (auto _ : state)
+        session.updateTextAndAttributes(kText, a, true);
+}
+
+// The same text laid out and measured once, on a font map of its own.
+void plainPango(benchmark::State &state) {
+    PangoFontMap *map = pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT);
+    pango_cairo_font_map_set_resolution(PANGO_CAIRO_FONT_MAP(map), 72.0);
+    TextAttributeList const a = attributes(kText);
+    for (auto _ : state) {
+        PangoContext *context = pango_font_map_create_context(map);
+        PangoLayout *layout = pango_layout_new(context);
+        pango_layout_set_width(layout, pango_units_from_double(kBox.Width()));
+        pango_layout_set_alignment(layout, PANGO_ALIGN_CENTER);
+        pango_layout_set_attributes(layout, a.pangoAttrList());
+        pango_layout_set_text(layout, kText.data(), int(kText.size()));
+        int width = 0, height = 0;
+        pango_layout_get_pixel_size(layout, &width, &height);
+        benchmark::DoNotOptimize(width);
+        g_object_unref(layout);
+        g_object_unref(context);
+    }
+    g_object_unref(map);
+}
+
+void hitTest(benchmark::State &state) {
+    TextCallout c = callout();
+    TextEditingSession session(&c, nullptr);
+    double x = 0;
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(session.selectionRangeForPoint(Point(100 + x, 180)));
+        x = x < 300 ? x + 7 : 0;
+    }
+}
+
+void moveDown(benchmark::State &state) {
+    TextCallout c = callout();
+    TextEditingSession session(&c, nullptr);
+    for (auto _ : state) {
+        session.setSelection(Range(20, 20));
+        session.moveSelectionDown();
+    }
+}
+
+} // namespace
+
+BENCHMARK(update);
+BENCHMARK(plainPango);
+BENCHMARK(hitTest);
+BENCHMARK(moveDown);
+
+int main(int argc, char **argv) {
+    return VantrelBench::runWithTargets(
+        argc, argv, {{"edit-update-vs-pango", {"update"}, {"plainPango"}}, {"edit-hit-test-ns", {"hitTest"}, {}}},
+        [](VantrelBench::Times const &times) {
+            auto it = times.find("moveDown");
+            if (it != times.end())
+                std::cout << "moveSelectionDown from the first line: " << it->second << " ns" << std::endl;
+        });
+}

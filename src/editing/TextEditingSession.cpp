@@ -1,0 +1,224 @@
+// The session keeps a layout of the library's font map, so every use of it
+// runs under the layout lock. Observers are told after the lock is
+// released: an observer may draw the callout's text, which takes the lock
+// itself. The callout's trackingRect is read before the lock is taken too,
+// since measuring a callout may lay its text out.
+#include <vantrel/editing/TextEditingSession.h>
+
+#include "editing/EditingLayout.h"
+#include "text/TextLayout.h"
+
+#include <vantrel/text/UTF8StringUtil.h>
+
+#include <algorithm>
+#include <mutex>
+
+namespace Vantrel {
+
+TextEditingSessionObserver::~TextEditingSessionObserver() = default;
+
+ScopedDeferredTextEditingSessionObserver::ScopedDeferredTextEditingSessionObserver(TextEditingSessionObserver *target_)
+    : target(target_) {}
+
+ScopedDeferredTextEditingSessionObserver::~ScopedDeferredTextEditingSessionObserver() {
+    if (!target)
+        return;
+    if (textChangePending)
+        target->textChanged();
+    if (selectionChangePending)
+        target->selectionChanged();
+}
+
+bool ScopedDeferredTextEditingSessionObserver::isRightToLeftLanguage(std::string const &text) {
+    return target ? target->isRightToLeftLanguage(text) : UTF8StringUtil::isRightToLeftLanguage(text);
+}
+
+struct TextEditingSession::Impl {
+    TextCallout *callout;
+    Range selection;
+    PangoLayout *layout = nullptr;
+    TextEditingSessionObserver *observer;
+    // What a session without a callout edits: an empty text in an empty box.
+    TextCallout nothing{Rect()};
+
+    Impl(TextCallout *callout_, TextEditingSessionObserver *observer_) : callout(callout_), observer(observer_) {}
+
+    ~Impl() {
+        std::lock_guard<std::mutex> guard(layoutLock());
+        if (layout)
+            g_object_unref(layout);
+    }
+
+    TextCallout &edited() { return callout ? *callout : nothing; }
+    TextCallout const &edited() const { return callout ? *callout : nothing; }
+    TextCalloutProperties &properties() { return edited().textCalloutProperties(); }
+    TextCalloutProperties const &properties() const { return edited().textCalloutProperties(); }
+    std::string const &text() const { return properties().text; }
+    int length() const { return UTF8StringUtil::length(text()); }
+
+    // The one place a selection changes.
+    void applySelection(Range const &range) {
+        int const n = length();
+        selection = Range(std::max(0, std::min(range.start(), n)), std::max(0, std::min(range.end(), n)));
+        if (observer)
+            observer->selectionChanged();
+    }
+
+    void rebuild(bool fitToBox) {
+        std::lock_guard<std::mutex> guard(layoutLock());
+        if (layout)
+            g_object_unref(layout);
+        layout = buildTextLayout(properties(), edited().textAttributeList(), fitToBox, 0, true);
+        if (fitToBox)
+            return;
+        // The box grows to the text instead; the layout stays as built.
+        int width = 0, height = 0;
+        pango_layout_get_pixel_size(layout, &width, &height);
+        TextCalloutProperties &p = properties();
+        p.isRightToLeft = UTF8StringUtil::isRightToLeftLanguage(p.text);
+        p.textRect = grownTextRect(p.textRect, width, height);
+    }
+
+    void rebuildAndTell(bool fitToBox) {
+        rebuild(fitToBox);
+        if (observer)
+            observer->textChanged();
+    }
+
+    // f(layout, text) under the layout lock.
+    template <class F> int withLayout(F const &f) const {
+        std::lock_guard<std::mutex> guard(layoutLock());
+        return f(layout, text());
+    }
+
+    int hitTest(Point const &point) const {
+        Rect const tracking = edited().trackingRect();
+        return withLayout([&](PangoLayout *l, std::string const &t) {
+            return characterAtLayoutPoint(l, t, layoutPointForPoint(properties(), tracking, l, point));
+        });
+    }
+
+    // Left and right change places for right-to-left text, with an observer only.
+    bool reversed() const { return observer && UTF8StringUtil::isRightToLeftLanguage(text()); }
+
+    int lineAbove(int offset) const {
+        return withLayout([&](auto l, auto &t) { return lineAboveOffset(l, t, offset); });
+    }
+    int lineBelow(int offset) const {
+        return withLayout([&](auto l, auto &t) { return lineBelowOffset(l, t, offset); });
+    }
+    int lineStart(int offset) const {
+        return withLayout([&](auto l, auto &t) { return startOfLineOffset(l, t, offset); });
+    }
+    int lineEnd(int offset) const {
+        return withLayout([&](auto l, auto &t) { return endOfLineOffset(l, t, offset); });
+    }
+    int wordLeft(int offset) const {
+        return reversed() ? wordEndOffset(text(), offset) : wordStartOffset(text(), offset);
+    }
+    int wordRight(int offset) const {
+        return reversed() ? wordStartOffset(text(), offset) : wordEndOffset(text(), offset);
+    }
+
+    int s() const { return selection.start(); }
+    int e() const { return selection.end(); }
+    void caretTo(int t) { applySelection(Range(t, t)); }
+};
+
+TextEditingSession::TextEditingSession(TextCallout *callout, TextEditingSessionObserver *observer)
+    : impl(new Impl(callout, observer)) {
+    impl->rebuild(true);
+}
+
+TextEditingSession::~TextEditingSession() = default;
+
+TextCallout *TextEditingSession::textCallout() const { return impl->callout; }
+void TextEditingSession::setObserver(TextEditingSessionObserver *observer) { impl->observer = observer; }
+Range TextEditingSession::selection() const { return impl->selection; }
+void TextEditingSession::setSelection(Range const &selection) { impl->applySelection(selection); }
+void TextEditingSession::selectAll() { impl->applySelection(Range(0, impl->length())); }
+
+Range TextEditingSession::selectionRangeForPoint(Point const &point) const {
+    int const t = impl->hitTest(point);
+    return Range(t, t);
+}
+
+void TextEditingSession::handleMouseDown(Point const &point) { impl->caretTo(impl->hitTest(point)); }
+void TextEditingSession::handleMouseDrag(Point const &point) {
+    impl->applySelection(Range(impl->s(), impl->hitTest(point)));
+}
+void TextEditingSession::handleMouseUp(Point const &) {}
+
+void TextEditingSession::setTextHorizontalAlignment(TextHorizontalAlignment alignment) {
+    impl->properties().horizontalAlignment = alignment;
+    impl->rebuildAndTell(true);
+}
+
+void TextEditingSession::setTextVerticalAlignment(TextVerticalAlignment alignment) {
+    impl->properties().verticalAlignment = alignment;
+    impl->rebuildAndTell(true);
+}
+
+void TextEditingSession::setVerticalSpace(double verticalSpace) {
+    impl->properties().verticalSpace = verticalSpace;
+    impl->rebuildAndTell(true);
+}
+
+void TextEditingSession::updateTextAndAttributes(std::string const &text, TextAttributeList const &attributes,
+                                                 bool fitToBox) {
+    TextCalloutProperties &p = impl->properties();
+    p.text = text;
+    p.isRightToLeft = UTF8StringUtil::isRightToLeftLanguage(text);
+    impl->edited().setTextAttributeList(attributes);
+    // The selection stays as it is, unclamped, until the host sets it.
+    impl->rebuildAndTell(fitToBox);
+}
+
+void TextEditingSession::moveSelectionLeft() {
+    impl->applySelection(caretMovedBy(impl->selection, impl->reversed() ? 1 : -1));
+}
+void TextEditingSession::moveSelectionRight() {
+    impl->applySelection(caretMovedBy(impl->selection, impl->reversed() ? -1 : 1));
+}
+void TextEditingSession::moveSelectionLeftAndModifySelection() {
+    impl->applySelection(Range(impl->s(), impl->e() - 1));
+}
+void TextEditingSession::moveSelectionRightAndModifySelection() {
+    impl->applySelection(Range(impl->s(), impl->e() + 1));
+}
+void TextEditingSession::moveSelectionUp() { impl->caretTo(impl->lineAbove(impl->s())); }
+void TextEditingSession::moveSelectionUpAndModifySelection() {
+    impl->applySelection(Range(impl->s(), impl->lineAbove(impl->e())));
+}
+void TextEditingSession::moveSelectionDown() { impl->caretTo(impl->lineBelow(impl->e())); }
+void TextEditingSession::moveSelectionDownAndModifySelection() {
+    impl->applySelection(Range(impl->s(), impl->lineBelow(impl->e())));
+}
+void TextEditingSession::moveSelectionToBeginning() { impl->caretTo(0); }
+void TextEditingSession::moveSelectionToBeginningAndModifySelection() {
+    impl->applySelection(Range(0, std::max(impl->s(), impl->e())));
+}
+void TextEditingSession::moveSelectionToEnd() { impl->caretTo(impl->length()); }
+void TextEditingSession::moveSelectionToEndAndModifySelection() {
+    impl->applySelection(Range(std::min(impl->s(), impl->e()), impl->length()));
+}
+void TextEditingSession::moveSelectionToBeginningOfLine() { impl->caretTo(impl->lineStart(impl->s())); }
+void TextEditingSession::moveSelectionToBeginningOfLineAndModifySelection() {
+    int const s = impl->s(), e = impl->e();
+    impl->applySelection(s < e ? Range(impl->lineStart(s), e) : Range(s, impl->lineStart(e)));
+}
+void TextEditingSession::moveSelectionToEndOfLine() { impl->caretTo(impl->lineEnd(impl->e())); }
+void TextEditingSession::moveSelectionToEndOfLineAndModifySelection() {
+    int const s = impl->s(), e = impl->e();
+    impl->applySelection(s > e ? Range(impl->lineEnd(s), e) : Range(s, impl->lineEnd(e)));
+}
+void TextEditingSession::moveSelectionWordLeft() { impl->caretTo(impl->wordLeft(impl->s())); }
+void TextEditingSession::moveSelectionWordLeftAndModifySelection() {
+    impl->applySelection(Range(impl->s(), impl->wordLeft(impl->e())));
+}
+void TextEditingSession::moveSelectionWordRight() { impl->caretTo(impl->wordRight(impl->s())); }
+void TextEditingSession::moveSelectionWordRightAndModifySelection() {
+    impl->applySelection(Range(impl->s(), impl->wordRight(impl->e())));
+}
+
+} // namespace Vantrel
