@@ -35,3 +35,5 @@
 #include <vantrel/callouts/thought/ThoughtBubbles.h>
 
 #include <vantrel/editing/TextEditingSession.h>
+
+#include <vantrel/captions/Caption.h>

@@ -170,6 +170,26 @@ static int everyFamily() {
     failures += counter.calls == 2 && session.selection() == Range(0, 7) ? 0 : 1;
     callout.drawSelectionIntoContext(&context, session.selection(), Color(0, 0, 1, 0.3f), Color(1, 0, 0));
 
+    // A caption, which is drawn by itself and streams its lines.
+    CaptionProperties captionProperties;
+    captionProperties.text = "A caption on two lines\nof text";
+    captionProperties.rect = Rect(-90, -50, 90, 50);
+    captionProperties.fontName = "DejaVu Sans";
+    captionProperties.fontSize = 14;
+    captionProperties.backgroundColor = Color(0, 0, 0, 0.5f);
+    Caption caption(captionProperties, TextAttributeList(), 6);
+    caption.DrawIntoContext(&context);
+    struct Lines : ICaptionExportObserver {
+        int texts = 0, breaks = 0;
+        void exportText(int, std::string const &) override { ++texts; }
+        void exportLineBreak(int, bool) override { ++breaks; }
+        void exportBold(int, bool) override {}
+        void exportItalic(int, bool) override {}
+    } lines;
+    Caption::ExportText(lines, captionProperties.text, TextAttributeList(), caption.GetWordWrapUTF8Indexes());
+    failures += caption.SplitUTF8Index() == -1 && lines.texts == 2 && lines.breaks == 1 ? 0 : 1;
+    failures += caption.MakeInfiniteHeightCaption()->GetWordWrapUTF8Indexes().size() == 3 ? 0 : 1;
+
     Path path;
     path.AddArc(Point(0, 0), 20, 0, kPi);
     failures += path.Flattened(&context).points.size() > 2 ? 0 : 1;

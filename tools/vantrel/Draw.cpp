@@ -1,6 +1,7 @@
 #include "Draw.h"
 
 #include "Arguments.h"
+#include "CaptionDraw.h"
 #include "Catalogue.h"
 
 #include <vantrel/Vantrel.h>
@@ -26,6 +27,9 @@ namespace VantrelTool {
 
 namespace {
 
+// A caption is no callout, so it has no row in the catalogue.
+char const *const kCaption = "caption";
+
 // What one draw asks for: the kind, the settings it is drawn with, and
 // what only the picture needs.
 struct Request {
@@ -42,6 +46,7 @@ struct Request {
     Rect reference;
     bool showOutlines = false;
     int frames = 0; // a reveal of this many pictures, the output a printf pattern
+    CaptionRequest caption;
 };
 
 Presets::LineEndCapType capType(std::string const &option, std::string const &text) {
@@ -273,6 +278,43 @@ std::vector<Option> const &options() {
          "WORD",
          "text: resizeText shrinks the text to fit the box; any other word does not",
          [](Request &r, std::string const &, std::string const &v) { r.settings.resize = v; }},
+        {{"--max-lines"},
+         "N",
+         "caption: most lines shown, -1 for as many as fit (default -1)",
+         [](Request &r, std::string const &f, std::string const &v) {
+             double const n = numbers(f, v, 1)[0];
+             if (n != int(n) || n < -1 || n > 1000000)
+                 throw UsageError("bad value for --max-lines: expected a whole number from -1 to 1000000");
+             r.caption.maxLines = int(n);
+         }},
+        {{"--centered"},
+         "",
+         "caption: the block of lines centred in the box",
+         [](Request &r, std::string const &, std::string const &) { r.caption.centered = true; }},
+        {{"--background"},
+         "COLOR",
+         "caption: the rounded background (default none)",
+         [](Request &r, std::string const &f, std::string const &v) { r.caption.background = colour(f, v); }},
+        {{"--outline-color"},
+         "COLOR",
+         "caption: the glyph outline's colour (default none)",
+         [](Request &r, std::string const &f, std::string const &v) { r.caption.outline = colour(f, v); }},
+        {{"--outline-width"},
+         "N",
+         "caption: the glyph outline's width (default 0, none)",
+         [](Request &r, std::string const &f, std::string const &v) { r.caption.outlineWidth = numbers(f, v, 1)[0]; }},
+        {{"--caption-margin"},
+         "N",
+         "caption: the inner margin and the background's corner radius (default 0)",
+         [](Request &r, std::string const &f, std::string const &v) { r.caption.margin = numbers(f, v, 1)[0]; }},
+        {{"--export"},
+         "",
+         "caption: print what ExportText tells an observer, a call a line",
+         [](Request &r, std::string const &, std::string const &) { r.caption.exportCalls = true; }},
+        {{"--infinite"},
+         "",
+         "caption: the caption's MakeInfiniteHeightCaption, which shows every line\nand draws nowhere near",
+         [](Request &r, std::string const &, std::string const &) { r.caption.infinite = true; }},
         {{"--caret"},
          "N",
          "text: draw the caret before character N",
@@ -363,9 +405,17 @@ Request parse(std::vector<std::string> const &args) {
     std::vector<std::string> families;
     for (Family const &f : catalogue())
         families.push_back(f.name);
+    families.push_back(kCaption);
     if (positional.empty())
         throw UsageError("draw needs a kind: " + oneOfList(families));
     r.family = oneOf("the kind", positional[0], families);
+    if (r.family == kCaption) {
+        if (positional.size() > 1)
+            throw UsageError("unexpected argument '" + positional[1] + "'");
+        if (r.output.empty())
+            throw UsageError("draw needs -o FILE.png");
+        return r;
+    }
     Family const &family = *findFamily(r.family);
     // The second word is the variant when the family has one by that name,
     // or has no default to fall back on.
@@ -407,6 +457,10 @@ std::string drawUsage() {
             usage +=
                 std::string(kindColumn, ' ') + (k.variant.empty() ? "themes: " : k.variant + ": ") + themesOf(k) + "\n";
     }
+    usage += padded("  caption", kindColumn) +
+             indented("a caption on the bottom of --box: the lines that fit, its wrap and\nsplit indexes printed; "
+                      "--margin is the picture's, --caption-margin its own",
+                      kindColumn);
     usage += "\nOptions:\n";
     size_t const column = 28;
     for (Option const &o : options()) {
@@ -479,6 +533,8 @@ int runDraw(std::vector<std::string> const &args) {
         }
     try {
         Request r = parse(args);
+        if (r.family == kCaption)
+            return writeCaption(r.settings, r.caption, r.margin, r.output);
         Kind const &kind = *findKind(*findFamily(r.family), r.variant);
         if (r.frames == 0)
             return writePicture(r, kind, r.settings, r.output);

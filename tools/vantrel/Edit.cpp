@@ -153,8 +153,7 @@ void runEditingOperation(TextEditingSession &session, std::string const &operati
         session.selectAll();
     } else if (word == "grow") {
         if (TextCallout const *callout = session.textCallout())
-            session.updateTextAndAttributes(callout->textCalloutProperties().text, callout->textAttributeList(),
-                                            false);
+            session.updateTextAndAttributes(callout->textCalloutProperties().text, callout->textAttributeList(), false);
     } else if (word == "click" || word == "drag") {
         std::vector<double> p = numbers(operation, value, 2);
         if (word == "click")

@@ -6,6 +6,8 @@
 // of the callout's body rect, y downwards; angles are radians by atan2.
 #pragma once
 
+#include "drawing/SavedContextState.h"
+
 #include <vantrel/drawing/DrawingContext.h>
 #include <vantrel/geometry/Path.h>
 #include <vantrel/values/Polygon.h>
@@ -49,19 +51,6 @@ void uniteTails(Polygons &result, std::vector<Point> const &tails, size_t limit,
         result = result.UnionWith(tail);
     }
 }
-
-// Save on construction and Restore on destruction, so that a drawing call
-// that throws still leaves the context's state balanced.
-class SavedContextState {
-public:
-    explicit SavedContextState(DrawingContext *context) : context(context) { context->Save(); }
-    ~SavedContextState() { context->Restore(); }
-    SavedContextState(SavedContextState const &) = delete;
-    SavedContextState &operator=(SavedContextState const &) = delete;
-
-private:
-    DrawingContext *context;
-};
 
 // The base width of a tail whose tip lies out from body: minimum, growing
 // by tan(angle) per unit of distance, at most a quarter of the side it

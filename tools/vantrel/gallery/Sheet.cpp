@@ -54,6 +54,7 @@ std::vector<Section> sections() {
     addArrowSections(all);
     addRectangleSections(all);
     addEditingSections(all);
+    addCaptionSections(all);
     return all;
 }
 

@@ -59,5 +59,6 @@ void addArrowSections(std::vector<Section> &all);
 void addOverviewSection(std::vector<Section> &all);
 void addRectangleSections(std::vector<Section> &all);
 void addEditingSections(std::vector<Section> &all);
+void addCaptionSections(std::vector<Section> &all);
 
 } // namespace VantrelTool
