@@ -37,3 +37,5 @@
 #include <vantrel/editing/TextEditingSession.h>
 
 #include <vantrel/captions/Caption.h>
+
+#include <vantrel/sprites/SpriteSheet.h>

@@ -190,6 +190,12 @@ static int everyFamily() {
     failures += caption.SplitUTF8Index() == -1 && lines.texts == 2 && lines.breaks == 1 ? 0 : 1;
     failures += caption.MakeInfiniteHeightCaption()->GetWordWrapUTF8Indexes().size() == 3 ? 0 : 1;
 
+    // A sprite sheet: like letters share a cell.
+    std::shared_ptr<SpriteSheet> sheet = SpriteSheet::FromText(properties, attributes, Point(1, 1), true, 0, true);
+    Bitmap cells = sheet->TheBitmap();
+    failures += sheet->NumItems() > 0 && cells.width() > 0 && sheet->LineItems().size() == 1 ? 0 : 1;
+    failures += sheet->LayoutItem(2).bitmapRect == sheet->LayoutItem(3).bitmapRect ? 0 : 1; // "ll"
+
     Path path;
     path.AddArc(Point(0, 0), 20, 0, kPi);
     failures += path.Flattened(&context).points.size() > 2 ? 0 : 1;

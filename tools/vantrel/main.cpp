@@ -3,6 +3,7 @@
 #include "Edit.h"
 #include "Gallery.h"
 #include "PresetsTable.h"
+#include "Sprites.h"
 
 #include <cstring>
 #include <iostream>
@@ -23,6 +24,8 @@ Commands:
   edit                  replay caret moves, clicks and selections on a text
                         callout and draw the result; 'vantrel edit --help'
                         lists the operations
+  sprites               cut a text into a sprite sheet of its clusters and write
+                        the sheet and its layout; 'vantrel sprites --help'
   presets               print the class each Presets function makes in each
                         theme, or null
   help                  show this text
@@ -69,7 +72,10 @@ int main(int argc, char **argv) {
     std::string command = args.front();
     args.erase(args.begin());
     if (command == "-h" || command == "--help" || command == "help") {
-        std::cout << kUsage << '\n' << VantrelTool::drawUsage() << '\n' << VantrelTool::editUsage();
+        std::cout << kUsage << '\n'
+                  << VantrelTool::drawUsage() << '\n'
+                  << VantrelTool::editUsage() << '\n'
+                  << VantrelTool::spritesUsage();
         return 0;
     }
     if (command == "draw")
@@ -78,6 +84,8 @@ int main(int argc, char **argv) {
         return runGallery(args);
     if (command == "edit")
         return VantrelTool::runEdit(args);
+    if (command == "sprites")
+        return VantrelTool::runSprites(args);
     if (command == "presets")
         return VantrelTool::runPresets(args);
     return usageError("unknown command '" + command + "'");

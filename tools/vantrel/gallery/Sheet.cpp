@@ -55,6 +55,7 @@ std::vector<Section> sections() {
     addRectangleSections(all);
     addEditingSections(all);
     addCaptionSections(all);
+    addSpriteSections(all);
     return all;
 }
 

@@ -60,5 +60,6 @@ void addOverviewSection(std::vector<Section> &all);
 void addRectangleSections(std::vector<Section> &all);
 void addEditingSections(std::vector<Section> &all);
 void addCaptionSections(std::vector<Section> &all);
+void addSpriteSections(std::vector<Section> &all);
 
 } // namespace VantrelTool

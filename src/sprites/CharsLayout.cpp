@@ -1,0 +1,289 @@
+#include "sprites/CharsLayout.h"
+
+#include "text/CharacterSpacingAttribute.h"
+#include "values/Rounding.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <cmath>
+#include <cstdint>
+#include <cstring>
+#include <cwctype>
+#include <glib.h>
+#include <map>
+#include <pango/pangocairo.h>
+#include <tuple>
+
+namespace Vantrel {
+
+int CharsLayoutBitmap::addShape(cairo_t *context, Color const &color, Point const &scale) {
+    auto path = std::make_shared<CairoPath>(context);
+    if (path->isEmpty())
+        return -1;
+    path->replaceCurrentPath(context);
+    double x1 = 0, y1 = 0, x2 = 0, y2 = 0;
+    cairo_path_extents(context, &x1, &y1, &x2, &y2);
+    // One pixel beyond the rounded ink on each side; saturated, so that a
+    // shape of any size is measured without overflow and then fails to fit.
+    shapes.push_back({path, color, scale, Rect(x1, y1, x2, y2), saturatingInt(std::floor(scale.x * x1) - 1),
+                      saturatingInt(std::floor(scale.y * y1) - 1), saturatingInt(std::ceil(scale.x * x2) + 1),
+                      saturatingInt(std::ceil(scale.y * y2) + 1)});
+    return int(shapes.size() - 1);
+}
+
+Rect CharsLayoutBitmap::shapeRect(int index) const {
+    return index >= 0 && size_t(index) < shapes.size() ? shapes[size_t(index)].extents : Rect();
+}
+
+namespace {
+
+int64_t widthOf(CharsLayoutBitmap::Shape const &s) { return std::llabs(int64_t(s.right) - s.left); }
+int64_t heightOf(CharsLayoutBitmap::Shape const &s) { return std::llabs(int64_t(s.bottom) - s.top); }
+
+// Rows from the left in the order of the shapes: calls place(shape, x, rowTop)
+// for each and returns the sheet's height, or -1 when a shape is wider than size.
+template <class Place>
+int64_t packRows(std::vector<CharsLayoutBitmap::Shape> const &shapes, int64_t size, Place const &place) {
+    int64_t x = 0, rowTop = 0, rowHeight = 0;
+    for (CharsLayoutBitmap::Shape const &s : shapes) {
+        int64_t const w = widthOf(s), h = heightOf(s);
+        if (w > size)
+            return -1;
+        if (x + w > size) {
+            rowTop += rowHeight;
+            x = 0;
+            rowHeight = 0;
+        }
+        place(s, x, rowTop);
+        x += w;
+        rowHeight = std::max(rowHeight, h);
+    }
+    return rowTop + rowHeight;
+}
+
+} // namespace
+
+bool CharsLayoutBitmap::finishLayout(cairo_t *context) {
+    // A shape larger than the largest sheet fits no trial; this also keeps
+    // the areas below summed well within 64 bits.
+    int64_t area = 0;
+    for (Shape const &s : shapes) {
+        if (widthOf(s) > maximumBitmapSize || heightOf(s) > maximumBitmapSize)
+            return false;
+        area += widthOf(s) * heightOf(s);
+    }
+    int64_t size = 32, height = -1;
+    auto nothing = [](Shape const &, int64_t, int64_t) {};
+    for (; size <= maximumBitmapSize; size *= 2) {
+        if (size * size < area)
+            continue;
+        height = packRows(shapes, size, nothing);
+        if (height >= 0 && height < 2 * size)
+            break;
+    }
+    if (size > maximumBitmapSize || height > maximumBitmapSize || height < 0)
+        return false;
+
+    bitmap = std::make_shared<Bitmap>(int(size), int(height));
+    bitmap->clear();
+    packRows(shapes, size, [&](Shape const &s, int64_t x, int64_t rowTop) {
+        int const w = int(widthOf(s)), h = int(heightOf(s));
+        s.path->replaceCurrentPath(context);
+        Bitmap cell(w, h);
+        cell.clear();
+        cairo_surface_t *surface = cairo_image_surface_create_for_data(static_cast<unsigned char *>(cell.bitmapData()),
+                                                                       CAIRO_FORMAT_ARGB32, w, h, cell.bytesPerRow());
+        cairo_t *cr = cairo_create(surface);
+        cairo_translate(cr, -s.left, -s.top);
+        cairo_scale(cr, s.scale.x, s.scale.y);
+        s.path->appendTo(cr);
+        cairo_set_source_rgba(cr, s.color.red, s.color.green, s.color.blue, 1.0);
+        cairo_fill(cr);
+        cairo_destroy(cr);
+        cairo_surface_destroy(surface);
+        bitmap->copyFrom(cell, int(x), int(rowTop));
+        cells.push_back({Rect(double(x), double(rowTop), double(x + w), double(rowTop + h)), Point(s.left, s.top)});
+    });
+    return true;
+}
+
+namespace {
+
+// What makes two clusters look alike: font, colour, decoration and glyphs.
+struct ShapeKey {
+    uintptr_t font;
+    uint32_t color;
+    int flags;
+    std::vector<std::array<int, 4>> glyphs; // id, width, x offset, y offset
+    bool operator<(ShapeKey const &o) const {
+        return std::tie(font, color, flags, glyphs) < std::tie(o.font, o.color, o.flags, o.glyphs);
+    }
+};
+
+// The character offset of every byte of the text, as the offset conversions
+// count them: a byte inside a character counts that character as begun.
+std::vector<int> characterOffsets(char const *text, int size) {
+    std::vector<int> offsets(size_t(size) + 1);
+    int n = 0;
+    for (int pos = 0; pos < size; ++n) {
+        int const end = std::min(size, pos + int(g_utf8_skip[static_cast<unsigned char>(text[pos])]));
+        offsets[size_t(pos)] = n;
+        for (int b = pos + 1; b < end; ++b)
+            offsets[size_t(b)] = n + 1;
+        pos = end;
+    }
+    offsets[size_t(size)] = n;
+    return offsets;
+}
+
+Rect scaled(PangoRectangle const &r, Point const &scale, Point const &origin) {
+    double const x = pango_units_to_double(r.x), y = pango_units_to_double(r.y);
+    return Rect(x * scale.x + origin.x, y * scale.y + origin.y,
+                (x + pango_units_to_double(r.width)) * scale.x + origin.x,
+                (y + pango_units_to_double(r.height)) * scale.y + origin.y);
+}
+
+// Whether the cluster's first character is white space, as its first UTF-16 code unit is.
+bool startsWithSpace(char const *text, int start, int end) {
+    if (end <= start)
+        return false;
+    gunichar const c = g_utf8_get_char_validated(text + start, end - start);
+    if (c == gunichar(-1) || c == gunichar(-2) || c > 0xFFFF)
+        return false; // no conversion, or a surrogate first
+    return std::iswspace(wint_t(c)) != 0;
+}
+
+} // namespace
+
+bool buildCharsLayout(CharsLayoutBase &chars, cairo_t *context, PangoLayout *layout, Point const &scale,
+                      double bitmapScale, Point const &origin) {
+    char const *text = pango_layout_get_text(layout);
+    int const size = int(std::strlen(text));
+    std::vector<int> const offsetOf = characterOffsets(text, size);
+    auto characterAt = [&](int index) { return offsetOf[size_t(std::max(0, std::min(index, size)))]; };
+    size_t const characters = size_t(offsetOf.back()) + 1;
+
+    // Every character's logical rectangle, and the word it belongs to. Words
+    // are counted in the order of the walk and stored by each character's
+    // own offset, so that the end of a wrapped line, which the walk visits
+    // at the next line's first character, shifts nothing.
+    std::vector<Rect> rectOf(characters);
+    std::vector<bool> hasRect(characters, false);
+    std::vector<int> wordOf(characters, -1);
+    int word = -1;
+    bool previousWasSpace = true;
+    PangoLayoutIter *it = pango_layout_get_iter(layout);
+    do {
+        int const index = pango_layout_iter_get_index(it);
+        size_t const c = size_t(characterAt(index));
+        PangoRectangle extents;
+        pango_layout_iter_get_char_extents(it, &extents);
+        rectOf[c] = scaled(extents, scale, origin);
+        hasRect[c] = true;
+        unsigned char const byte = index >= 0 && index < size ? static_cast<unsigned char>(text[index]) : 0;
+        bool const space = byte < 128 && std::isspace(byte);
+        if (!space && previousWasSpace)
+            ++word;
+        previousWasSpace = space;
+        wordOf[c] = space ? -1 : word;
+    } while (pango_layout_iter_next_char(it));
+    pango_layout_iter_free(it);
+
+    std::map<ShapeKey, int> shapeOfKey;
+    ShapeKey key{};
+    it = pango_layout_get_iter(layout);
+    int lineIndex = 0;
+    do {
+        double const baselineY = pango_units_to_double(pango_layout_iter_get_baseline(it)) * scale.y + origin.y;
+        PangoRectangle lineExtents;
+        pango_layout_iter_get_line_extents(it, nullptr, &lineExtents);
+        Rect const lineRect = scaled(lineExtents, scale, origin);
+        int const firstItem = int(chars.items.size());
+        double topmost = baselineY;
+        PangoLayoutLine *line = pango_layout_iter_get_line_readonly(it);
+        for (GSList *l = line ? line->runs : nullptr; l; l = l->next) {
+            PangoGlyphItem *run = static_cast<PangoGlyphItem *>(l->data);
+            int const base = characterAt(run->item->offset);
+            int underline = 0, strikethrough = 0;
+            Color color;
+            for (GSList *a = run->item->analysis.extra_attrs; a; a = a->next) {
+                PangoAttribute *attribute = static_cast<PangoAttribute *>(a->data);
+                int const type = attributeType(attribute); // registered types lie outside the enumeration
+                if (type == PANGO_ATTR_UNDERLINE)
+                    underline = reinterpret_cast<PangoAttrInt *>(attribute)->value;
+                else if (type == PANGO_ATTR_STRIKETHROUGH)
+                    strikethrough = reinterpret_cast<PangoAttrInt *>(attribute)->value;
+                else if (type == PANGO_ATTR_FOREGROUND)
+                    color = Color::FromPango(reinterpret_cast<PangoAttrColor *>(attribute)->color);
+            }
+            PangoFont *font = run->item->analysis.font;
+            PangoFontMetrics *metrics = (underline || strikethrough) && font
+                                            ? pango_font_get_metrics(font, run->item->analysis.language)
+                                            : nullptr;
+            PangoGlyphItemIter cluster;
+            for (bool more = pango_glyph_item_iter_init_start(&cluster, run, text); more;
+                 more = pango_glyph_item_iter_next_cluster(&cluster)) {
+                bool const rightToLeft = cluster.end_glyph < cluster.start_glyph;
+                int const first = rightToLeft ? cluster.end_glyph + 1 : cluster.start_glyph;
+                int const count =
+                    rightToLeft ? cluster.start_glyph - cluster.end_glyph : cluster.end_glyph - cluster.start_glyph;
+                int const character = rightToLeft ? base + cluster.end_char - 1 : base + cluster.start_char;
+                // A character without a rectangle ends the run.
+                if (character < 0 || size_t(character) >= characters || !hasRect[size_t(character)])
+                    break;
+                Rect const rect = rectOf[size_t(character)];
+                if (startsWithSpace(text, cluster.start_index, cluster.end_index) && !(rect.Width() > 0))
+                    continue;
+                PangoGlyphString view;
+                view.num_glyphs = count;
+                view.glyphs = run->glyphs->glyphs + first;
+                view.log_clusters = run->glyphs->log_clusters + first;
+                view.space = count;
+                // One key refilled for every cluster: a known cluster costs a lookup, no allocation.
+                key.font = reinterpret_cast<uintptr_t>(font);
+                key.color = color.ToPacked();
+                key.flags = (underline ? 1 : 0) + (strikethrough ? 2 : 0);
+                key.glyphs.clear();
+                for (int g = 0; g < count; ++g) {
+                    PangoGlyphInfo const &glyph = view.glyphs[g];
+                    key.glyphs.push_back(
+                        {int(glyph.glyph), glyph.geometry.width, glyph.geometry.x_offset, glyph.geometry.y_offset});
+                }
+                auto known = shapeOfKey.find(key);
+                int shape = 0;
+                if (known != shapeOfKey.end()) {
+                    shape = known->second;
+                } else {
+                    cairo_new_path(context);
+                    if (font && count > 0)
+                        pango_cairo_glyph_string_path(context, font, &view);
+                    double const width = rect.Width() / scale.x;
+                    if (strikethrough && metrics)
+                        cairo_rectangle(
+                            context, 0, -pango_units_to_double(pango_font_metrics_get_strikethrough_position(metrics)),
+                            width, pango_units_to_double(pango_font_metrics_get_strikethrough_thickness(metrics)));
+                    if (underline && metrics)
+                        cairo_rectangle(
+                            context, 0, -pango_units_to_double(pango_font_metrics_get_underline_position(metrics)),
+                            width, pango_units_to_double(pango_font_metrics_get_underline_thickness(metrics)));
+                    shape = chars.addShape(context, color, scale * bitmapScale);
+                    shapeOfKey.emplace(key, shape);
+                }
+                if (shape < 0)
+                    continue; // no outline, no item
+                chars.items.push_back(
+                    {shape, rect, wordOf[size_t(character)], lineIndex, Point(rect.Left(), baselineY)});
+                topmost = std::min(topmost, baselineY + chars.shapeRect(shape).Top() * scale.y);
+            }
+            if (metrics)
+                pango_font_metrics_unref(metrics);
+        }
+        chars.lines.push_back({lineRect, baselineY, topmost, firstItem, int(chars.items.size()) - firstItem});
+        ++lineIndex;
+    } while (pango_layout_iter_next_line(it));
+    pango_layout_iter_free(it);
+    return chars.finishLayout(context);
+}
+
+} // namespace Vantrel
