@@ -1,6 +1,7 @@
 // Captions against plain pango and cairo: drawing a three-line caption with
 // a background and a glyph outline, and building one.
 #include "BenchTargets.h"
+#include "PlainReference.h"
 
 #include <vantrel/Vantrel.h>
 
@@ -28,14 +29,7 @@ CaptionProperties properties() {
     return p;
 }
 
-TextAttributeList plainAttributes() {
-    TextAttributeList a;
-    Range all(0, int(kText.size()));
-    a.addFontNameAttribute(all, "DejaVu Sans");
-    a.addFontSizeAttribute(all, 24);
-    a.addFGColorAttribute(all, Color(1, 1, 1));
-    return a;
-}
+TextAttributeList plainAttributes() { return VantrelBench::plainAttributes(kText, 24, Color(1, 1, 1)); }
 
 struct PlainLayout {
     PangoFontMap *map;

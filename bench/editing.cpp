@@ -2,6 +2,7 @@
 // installing a text that fits against one plain pango layout of the same
 // text and attributes, the hit test of a click, and a line move.
 #include "BenchTargets.h"
+#include "PlainReference.h"
 
 #include <vantrel/Vantrel.h>
 
@@ -26,12 +27,7 @@ std::string sampleText() {
 std::string const kText = sampleText();
 
 TextAttributeList attributes(std::string const &text) {
-    TextAttributeList a;
-    Range all(0, int(text.size()));
-    a.addFontNameAttribute(all, "DejaVu Sans");
-    a.addFontSizeAttribute(all, 14);
-    a.addFGColorAttribute(all, Color(0.1f, 0.1f, 0.3f));
-    return a;
+    return VantrelBench::plainAttributes(text, 14, Color(0.1f, 0.1f, 0.3f));
 }
 
 TextCallout callout() {

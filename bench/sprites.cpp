@@ -1,6 +1,7 @@
 // Sprite sheets against one plain pango layout and show of the same text,
 // and how the cost grows from a thousand letters to ten thousand.
 #include "BenchTargets.h"
+#include "PlainReference.h"
 
 #include <vantrel/Vantrel.h>
 
@@ -26,12 +27,7 @@ std::string letters(size_t count) {
 std::string const kThousand = letters(1000), kTenThousand = letters(10000);
 
 TextAttributeList attributes(std::string const &text) {
-    TextAttributeList a;
-    Range all(0, int(text.size()));
-    a.addFontNameAttribute(all, "DejaVu Sans");
-    a.addFontSizeAttribute(all, 14);
-    a.addFGColorAttribute(all, Color(0.1f, 0.1f, 0.3f));
-    return a;
+    return VantrelBench::plainAttributes(text, 14, Color(0.1f, 0.1f, 0.3f));
 }
 
 TextCalloutProperties properties(std::string const &text) {

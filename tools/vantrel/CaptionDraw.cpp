@@ -1,6 +1,7 @@
 #include "CaptionDraw.h"
 
 #include "Arguments.h"
+#include "Picture.h"
 
 #include <cairo.h>
 #include <iostream>
@@ -66,22 +67,9 @@ int writeCaption(Settings const &settings, CaptionRequest const &request, double
         PrintingExport printer;
         Caption::ExportText(printer, properties.text, TextAttributeList(), caption->GetWordWrapUTF8Indexes());
     }
-    RectInt pixels = properties.rect.Expanded(pictureMargin).ToContainingRectInt();
-    int64_t width = int64_t(pixels.right) - pixels.left, height = int64_t(pixels.bottom) - pixels.top;
-    if (width <= 0 || height <= 0 || width > 16000 || height > 16000)
-        throw UsageError("the caption's rect " + std::to_string(width) + " by " + std::to_string(height) +
-                         " pixels does not make a picture (at most 16000 on a side)");
-    CrossPlatformDrawingContextWithBuiltInBitmap picture{int(width), int(height)};
-    picture.builtInBitmap()->clear();
-    picture.Translate(Point(-pixels.left, -pixels.top));
-    caption->DrawIntoContext(&picture);
-    cairo_surface_t *surface = cairo_get_target(picture.Get());
-    cairo_surface_flush(surface);
-    if (cairo_surface_write_to_png(surface, path.c_str()) != CAIRO_STATUS_SUCCESS) {
-        std::cerr << "vantrel: could not write '" << path << "'\n";
-        return 1;
-    }
-    return 0;
+    auto picture = pictureOver(properties.rect.Expanded(pictureMargin), "the caption's rect");
+    caption->DrawIntoContext(picture.get());
+    return writePng(*picture, path);
 }
 
 } // namespace VantrelTool

@@ -3,6 +3,7 @@
 #include "Arguments.h"
 #include "CaptionDraw.h"
 #include "Catalogue.h"
+#include "Picture.h"
 
 #include <vantrel/Vantrel.h>
 
@@ -498,15 +499,8 @@ int writePicture(Request const &r, Kind const &kind, Settings const &settings, s
     std::unique_ptr<BaseCallout> callout(kind.make(r.theme, settings));
     if (!callout)
         throw UsageError("theme " + r.themeName + " has no " + (r.variant.empty() ? "" : r.variant + " ") + r.family);
-    Rect bounds = callout->boundingRect().Expanded(r.margin);
-    RectInt pixels = bounds.ToContainingRectInt();
-    int64_t width = int64_t(pixels.right) - pixels.left, height = int64_t(pixels.bottom) - pixels.top;
-    if (width <= 0 || height <= 0 || width > 16000 || height > 16000)
-        throw UsageError("the callout's bounds " + std::to_string(width) + " by " + std::to_string(height) +
-                         " pixels do not make a picture (at most 16000 on a side)");
-    CrossPlatformDrawingContextWithBuiltInBitmap picture{int(width), int(height)};
-    picture.builtInBitmap()->clear();
-    picture.Translate(Point(-pixels.left, -pixels.top));
+    auto picturePointer = pictureOver(callout->boundingRect().Expanded(r.margin), "the callout's bounding rect");
+    CrossPlatformDrawingContext &picture = *picturePointer;
     callout->drawIntoContext(&picture, BaseCallout::DrawOptions(r.options), r.reference, r.tailIndex, nullptr);
     if (r.showOutlines) {
         picture.Stroke(Color(0.1f, 0.7f, 0.2f), 1.5, "solid", callout->bodyPathAsPolygons(r.reference));
@@ -514,13 +508,7 @@ int writePicture(Request const &r, Kind const &kind, Settings const &settings, s
     }
     if (auto *text = dynamic_cast<TextCallout *>(callout.get()); text && r.marks)
         text->drawSelectionIntoContext(&picture, r.selection, Color(0.2f, 0.5f, 1.0f, 0.35f), Color(0.9f, 0.1f, 0.1f));
-    cairo_surface_t *surface = cairo_get_target(picture.Get());
-    cairo_surface_flush(surface);
-    if (cairo_surface_write_to_png(surface, path.c_str()) != CAIRO_STATUS_SUCCESS) {
-        std::cerr << "vantrel: could not write '" << path << "'\n";
-        return 1;
-    }
-    return 0;
+    return writePng(picture, path);
 }
 
 } // namespace

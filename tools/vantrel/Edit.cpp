@@ -2,6 +2,7 @@
 
 #include "Arguments.h"
 #include "Catalogue.h"
+#include "Picture.h"
 
 #include <cairo.h>
 #include <functional>
@@ -112,26 +113,15 @@ std::string describe(Range const &r) {
 int writeEditPicture(TextCallout const &edited, Range const &selection, std::string const &path) {
     // A callout of the text as it now stands: the edited one keeps the bounds it measured first.
     TextCallout callout(edited.bodyRect(), edited.textCalloutProperties(), edited.textAttributeList());
-    RectInt pixels = callout.textCalloutProperties().textRect.Expanded(12).ToContainingRectInt();
-    int64_t width = int64_t(pixels.right) - pixels.left, height = int64_t(pixels.bottom) - pixels.top;
-    if (width <= 0 || height <= 0 || width > 16000 || height > 16000)
-        throw UsageError("the box " + std::to_string(width) + " by " + std::to_string(height) +
-                         " pixels does not make a picture (at most 16000 on a side)");
-    CrossPlatformDrawingContextWithBuiltInBitmap picture{int(width), int(height)};
-    picture.builtInBitmap()->clear();
-    picture.Translate(Point(-pixels.left, -pixels.top));
-    picture.Fill(Color(1, 1, 1), Polygon(Rect(pixels)));
+    Rect const area = callout.textCalloutProperties().textRect.Expanded(12);
+    auto picturePointer = pictureOver(area, "the box");
+    CrossPlatformDrawingContext &picture = *picturePointer;
+    picture.Fill(Color(1, 1, 1), Polygon(Rect(area.ToContainingRectInt())));
     picture.Stroke(Color(0.75f, 0.75f, 0.8f), 1, "solid",
                    Polygon(callout.textCalloutProperties().textRect.Expanded(0.5)));
     callout.drawSelectionIntoContext(&picture, selection, Color(0.2f, 0.5f, 1.0f, 0.35f), kRed);
     callout.drawIntoContext(&picture, BaseCallout::DrawOptionAll, Rect(), -1, nullptr);
-    cairo_surface_t *surface = cairo_get_target(picture.Get());
-    cairo_surface_flush(surface);
-    if (cairo_surface_write_to_png(surface, path.c_str()) != CAIRO_STATUS_SUCCESS) {
-        std::cerr << "vantrel: could not write '" << path << "'\n";
-        return 1;
-    }
-    return 0;
+    return writePng(picture, path);
 }
 
 } // namespace

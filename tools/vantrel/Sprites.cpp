@@ -2,6 +2,7 @@
 
 #include "Arguments.h"
 #include "Catalogue.h"
+#include "Picture.h"
 
 #include <algorithm>
 #include <cairo.h>
@@ -100,15 +101,6 @@ std::string layoutJson(SpriteSheet const &sheet) {
     return out.str();
 }
 
-int writePng(cairo_surface_t *surface, std::string const &path) {
-    cairo_surface_flush(surface);
-    if (cairo_surface_write_to_png(surface, path.c_str()) != CAIRO_STATUS_SUCCESS) {
-        std::cerr << "vantrel: could not write '" << path << "'\n";
-        return 1;
-    }
-    return 0;
-}
-
 // The sheet's bitmap as it is; a sheet without pixels as one transparent pixel.
 int writeSheet(SpriteSheet const &sheet, std::string const &path) {
     Bitmap pixels = sheet.TheBitmap();
@@ -116,20 +108,13 @@ int writeSheet(SpriteSheet const &sheet, std::string const &path) {
     picture.builtInBitmap()->clear();
     if (pixels.width() > 0 && pixels.height() > 0)
         picture.DrawBitmap(pixels, Point(0, 0), 1.0);
-    return writePng(cairo_get_target(picture.Get()), path);
+    return writePng(picture, path);
 }
 
 int writeReassembled(SpriteSheet const &sheet, std::string const &path) {
-    RectInt pixels = sheet.LayoutRect().Expanded(10).ToContainingRectInt();
-    int64_t width = int64_t(pixels.right) - pixels.left, height = int64_t(pixels.bottom) - pixels.top;
-    if (width <= 0 || height <= 0 || width > 16000 || height > 16000)
-        throw UsageError("the layout rect " + std::to_string(width) + " by " + std::to_string(height) +
-                         " pixels does not make a picture (at most 16000 on a side)");
-    CrossPlatformDrawingContextWithBuiltInBitmap picture{int(width), int(height)};
-    picture.builtInBitmap()->clear();
-    picture.Translate(Point(-pixels.left, -pixels.top));
-    drawReassembled(picture, sheet);
-    return writePng(cairo_get_target(picture.Get()), path);
+    auto picture = pictureOver(sheet.LayoutRect().Expanded(10), "the layout rect");
+    drawReassembled(*picture, sheet);
+    return writePng(*picture, path);
 }
 
 } // namespace
