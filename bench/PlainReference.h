@@ -81,6 +81,26 @@ inline Vantrel::TextAttributeList plainAttributes(std::string const &text, doubl
     return a;
 }
 
+// A font map of its own at the library's resolution, as a plain program makes one.
+inline PangoFontMap *plainFontMap() {
+    PangoFontMap *map = pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT);
+    pango_cairo_font_map_set_resolution(PANGO_CAIRO_FONT_MAP(map), 72.0);
+    return map;
+}
+
+// A plain layout of the text at a width in pixels, aligned and wrapped as given.
+inline PangoLayout *plainLayout(PangoContext *context, std::string const &text,
+                                Vantrel::TextAttributeList const &attributes, double width,
+                                PangoAlignment alignment = PANGO_ALIGN_CENTER, PangoWrapMode wrap = PANGO_WRAP_WORD) {
+    PangoLayout *layout = pango_layout_new(context);
+    pango_layout_set_width(layout, pango_units_from_double(width));
+    pango_layout_set_alignment(layout, alignment);
+    pango_layout_set_wrap(layout, wrap);
+    pango_layout_set_attributes(layout, attributes.pangoAttrList());
+    pango_layout_set_text(layout, text.data(), int(text.size()));
+    return layout;
+}
+
 class PlainCanvas {
 public:
     PlainCanvas() : bitmap(512, 512) {
@@ -89,8 +109,7 @@ public:
                                                       CAIRO_FORMAT_ARGB32, 512, 512, 512 * 4);
         cr = cairo_create(surface);
         cairo_translate(cr, 256, 256);
-        map = pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT);
-        pango_cairo_font_map_set_resolution(PANGO_CAIRO_FONT_MAP(map), 72.0);
+        map = plainFontMap();
     }
     ~PlainCanvas() {
         g_object_unref(map);
@@ -122,11 +141,7 @@ public:
     // The text laid out to the box's width, centred, shown at its top left.
     void showText(std::string const &text, Vantrel::TextAttributeList const &attributes, Vantrel::Rect const &box) {
         PangoContext *context = pango_font_map_create_context(map);
-        PangoLayout *layout = pango_layout_new(context);
-        pango_layout_set_width(layout, pango_units_from_double(box.Width()));
-        pango_layout_set_alignment(layout, PANGO_ALIGN_CENTER);
-        pango_layout_set_attributes(layout, attributes.pangoAttrList());
-        pango_layout_set_text(layout, text.data(), int(text.size()));
+        PangoLayout *layout = plainLayout(context, text, attributes, box.Width());
         cairo_move_to(cr, box.Left(), box.Top());
         pango_cairo_show_layout(cr, layout);
         g_object_unref(layout);

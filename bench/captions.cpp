@@ -36,18 +36,13 @@ struct PlainLayout {
     PangoContext *context;
     PangoLayout *layout;
     PlainLayout(TextAttributeList const &a) {
-        map = pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT);
-        pango_cairo_font_map_set_resolution(PANGO_CAIRO_FONT_MAP(map), 72.0);
+        map = VantrelBench::plainFontMap();
         context = pango_font_map_create_context(map);
         layout = build(a);
     }
     PangoLayout *build(TextAttributeList const &a) const {
-        PangoLayout *l = pango_layout_new(context);
-        pango_layout_set_width(l, pango_units_from_double(kRect.Width() - 2 * kMargin));
-        pango_layout_set_wrap(l, PANGO_WRAP_WORD_CHAR);
-        pango_layout_set_attributes(l, a.pangoAttrList());
-        pango_layout_set_text(l, kText.data(), int(kText.size()));
-        return l;
+        return VantrelBench::plainLayout(context, kText, a, kRect.Width() - 2 * kMargin, PANGO_ALIGN_LEFT,
+                                         PANGO_WRAP_WORD_CHAR);
     }
     ~PlainLayout() {
         g_object_unref(layout);

@@ -47,16 +47,11 @@ void update(benchmark::State &state) {
 
 // The same text laid out and measured once, on a font map of its own.
 void plainPango(benchmark::State &state) {
-    PangoFontMap *map = pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT);
-    pango_cairo_font_map_set_resolution(PANGO_CAIRO_FONT_MAP(map), 72.0);
+    PangoFontMap *map = VantrelBench::plainFontMap();
     TextAttributeList const a = attributes(kText);
     for (auto _ : state) {
         PangoContext *context = pango_font_map_create_context(map);
-        PangoLayout *layout = pango_layout_new(context);
-        pango_layout_set_width(layout, pango_units_from_double(kBox.Width()));
-        pango_layout_set_alignment(layout, PANGO_ALIGN_CENTER);
-        pango_layout_set_attributes(layout, a.pangoAttrList());
-        pango_layout_set_text(layout, kText.data(), int(kText.size()));
+        PangoLayout *layout = VantrelBench::plainLayout(context, kText, a, kBox.Width());
         int width = 0, height = 0;
         pango_layout_get_pixel_size(layout, &width, &height);
         benchmark::DoNotOptimize(width);

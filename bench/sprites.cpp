@@ -53,16 +53,12 @@ void plainPango(benchmark::State &state, std::string const &text) {
         cairo_image_surface_create_for_data(static_cast<unsigned char *>(bitmap.bitmapData()), CAIRO_FORMAT_ARGB32,
                                             bitmap.width(), bitmap.height(), bitmap.bytesPerRow());
     cairo_t *cr = cairo_create(surface);
-    PangoFontMap *map = pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT);
-    pango_cairo_font_map_set_resolution(PANGO_CAIRO_FONT_MAP(map), 72.0);
+    PangoFontMap *map = VantrelBench::plainFontMap();
     TextAttributeList const a = attributes(text);
     for (auto _ : state) {
         bitmap.clear();
         PangoContext *context = pango_font_map_create_context(map);
-        PangoLayout *layout = pango_layout_new(context);
-        pango_layout_set_width(layout, pango_units_from_double(kBox.Width()));
-        pango_layout_set_attributes(layout, a.pangoAttrList());
-        pango_layout_set_text(layout, text.data(), int(text.size()));
+        PangoLayout *layout = VantrelBench::plainLayout(context, text, a, kBox.Width(), PANGO_ALIGN_LEFT);
         cairo_move_to(cr, 0, 0);
         pango_cairo_show_layout(cr, layout);
         g_object_unref(layout);

@@ -2,6 +2,7 @@
 // the same text with the same attributes, for a text that fits its box and
 // for one that needs the fit search. Also the first text draw of a process.
 #include "BenchTargets.h"
+#include "PlainReference.h"
 
 #include <vantrel/Vantrel.h>
 
@@ -50,16 +51,11 @@ void plainPango(benchmark::State &state, std::string const &text) {
     cairo_surface_t *surface = cairo_image_surface_create_for_data(static_cast<unsigned char *>(bitmap.bitmapData()),
                                                                    CAIRO_FORMAT_ARGB32, 400, 160, 400 * 4);
     cairo_t *cr = cairo_create(surface);
-    PangoFontMap *map = pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT);
-    pango_cairo_font_map_set_resolution(PANGO_CAIRO_FONT_MAP(map), 72.0);
+    PangoFontMap *map = VantrelBench::plainFontMap();
     TextAttributeList a = attributes(text);
     for (auto _ : state) {
         PangoContext *context = pango_font_map_create_context(map);
-        PangoLayout *layout = pango_layout_new(context);
-        pango_layout_set_width(layout, pango_units_from_double(kBox.Width()));
-        pango_layout_set_alignment(layout, PANGO_ALIGN_CENTER);
-        pango_layout_set_attributes(layout, a.pangoAttrList());
-        pango_layout_set_text(layout, text.data(), int(text.size()));
+        PangoLayout *layout = VantrelBench::plainLayout(context, text, a, kBox.Width());
         cairo_save(cr);
         cairo_rectangle(cr, kBox.Left(), kBox.Top(), kBox.Width(), kBox.Height());
         cairo_clip(cr);

@@ -33,8 +33,8 @@ struct LayoutText {
 };
 
 // The byte index of a character offset, within the layout's text.
-int byteIndex(PangoLayout *layout, std::string const &text, int offset) {
-    return std::min(UTF8StringUtil::byteOffsetFromCharacterOffset(text, offset), LayoutText(layout).size);
+int byteIndex(LayoutText const &bytes, std::string const &text, int offset) {
+    return std::min(UTF8StringUtil::byteOffsetFromCharacterOffset(text, offset), bytes.size);
 }
 
 struct LineSpan {
@@ -43,16 +43,15 @@ struct LineSpan {
 };
 
 // The line that holds the byte index, found as pango finds it for a leading edge.
-LineSpan lineOf(PangoLayout *layout, int index) {
+LineSpan lineOf(PangoLayout *layout, LayoutText const &bytes, int index) {
     int number = 0;
     pango_layout_index_to_line_x(layout, index, FALSE, &number, nullptr);
     int const count = pango_layout_get_line_count(layout);
     number = std::max(0, std::min(number, count - 1));
     LineSpan span{number, 0, 0, number == count - 1};
     if (PangoLayoutLine *line = pango_layout_get_line_readonly(layout, number)) {
-        int const size = LayoutText(layout).size;
-        span.start = std::max(0, std::min(line->start_index, size));
-        span.end = std::max(span.start, std::min(int(int64_t(line->start_index) + line->length), size));
+        span.start = std::max(0, std::min(line->start_index, bytes.size));
+        span.end = std::max(span.start, std::min(int(int64_t(line->start_index) + line->length), bytes.size));
     }
     return span;
 }
@@ -101,7 +100,7 @@ int characterAtLayoutPoint(PangoLayout *layout, std::string const &text, Point c
     PangoRectangle pos;
     pango_layout_index_to_pos(layout, index, &pos);
     int c = UTF8StringUtil::characterOffsetFromByteOffset(text, index);
-    LineSpan const line = lineOf(layout, index);
+    LineSpan const line = lineOf(layout, bytes, index);
     // The blank at which a line wrapped: the click lands in front of it.
     if (index == line.end - 1 && bytes.at(index) == ' ' && bytes.at(line.end) != '\n' && !line.last)
         c -= 1;
@@ -114,14 +113,17 @@ int characterAtLayoutPoint(PangoLayout *layout, std::string const &text, Point c
 }
 
 int startOfLineOffset(PangoLayout *layout, std::string const &text, int offset) {
-    return UTF8StringUtil::characterOffsetFromByteOffset(text, lineOf(layout, byteIndex(layout, text, offset)).start);
+    LayoutText const bytes(layout);
+    return UTF8StringUtil::characterOffsetFromByteOffset(text,
+                                                         lineOf(layout, bytes, byteIndex(bytes, text, offset)).start);
 }
 
 int endOfLineOffset(PangoLayout *layout, std::string const &text, int offset) {
-    LineSpan const line = lineOf(layout, byteIndex(layout, text, offset));
+    LayoutText const bytes(layout);
+    LineSpan const line = lineOf(layout, bytes, byteIndex(bytes, text, offset));
     // The character that holds the line's last byte.
     int const last = UTF8StringUtil::characterOffsetFromByteOffset(text, line.end) - 1;
-    char const next = LayoutText(layout).at(line.end);
+    char const next = bytes.at(line.end);
     return next == '\r' || next == '\n' || line.last ? last + 1 : last;
 }
 
@@ -155,16 +157,18 @@ int offsetBesideCaret(PangoLayout *layout, std::string const &text, int index, i
 } // namespace
 
 int lineAboveOffset(PangoLayout *layout, std::string const &text, int offset) {
-    int const index = byteIndex(layout, text, offset);
-    LineSpan const line = lineOf(layout, index);
+    LayoutText const bytes(layout);
+    int const index = byteIndex(bytes, text, offset);
+    LineSpan const line = lineOf(layout, bytes, index);
     if (line.number == 0)
         return UTF8StringUtil::characterOffsetFromByteOffset(text, line.start);
     return offsetBesideCaret(layout, text, index, -int64_t(lineHeightAt(layout, line.number - 1)));
 }
 
 int lineBelowOffset(PangoLayout *layout, std::string const &text, int offset) {
-    int const index = byteIndex(layout, text, offset);
-    LineSpan const line = lineOf(layout, index);
+    LayoutText const bytes(layout);
+    int const index = byteIndex(bytes, text, offset);
+    LineSpan const line = lineOf(layout, bytes, index);
     if (line.last)
         return endOfLineOffset(layout, text, offset);
     return offsetBesideCaret(layout, text, index, lineHeightAt(layout, line.number));

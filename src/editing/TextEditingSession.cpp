@@ -101,17 +101,9 @@ struct TextEditingSession::Impl {
     // Left and right change places for right-to-left text, with an observer only.
     bool reversed() const { return observer && UTF8StringUtil::isRightToLeftLanguage(text()); }
 
-    int lineAbove(int offset) const {
-        return withLayout([&](auto l, auto &t) { return lineAboveOffset(l, t, offset); });
-    }
-    int lineBelow(int offset) const {
-        return withLayout([&](auto l, auto &t) { return lineBelowOffset(l, t, offset); });
-    }
-    int lineStart(int offset) const {
-        return withLayout([&](auto l, auto &t) { return startOfLineOffset(l, t, offset); });
-    }
-    int lineEnd(int offset) const {
-        return withLayout([&](auto l, auto &t) { return endOfLineOffset(l, t, offset); });
+    // A line helper of the layout (lineAboveOffset, endOfLineOffset, ...) at offset.
+    int onLine(int (*helper)(PangoLayout *, std::string const &, int), int offset) const {
+        return withLayout([&](PangoLayout *l, std::string const &t) { return helper(l, t, offset); });
     }
     int wordLeft(int offset) const {
         return reversed() ? wordEndOffset(text(), offset) : wordStartOffset(text(), offset);
@@ -186,13 +178,13 @@ void TextEditingSession::moveSelectionLeftAndModifySelection() {
 void TextEditingSession::moveSelectionRightAndModifySelection() {
     impl->applySelection(Range(impl->s(), impl->e() + 1));
 }
-void TextEditingSession::moveSelectionUp() { impl->caretTo(impl->lineAbove(impl->s())); }
+void TextEditingSession::moveSelectionUp() { impl->caretTo(impl->onLine(lineAboveOffset, impl->s())); }
 void TextEditingSession::moveSelectionUpAndModifySelection() {
-    impl->applySelection(Range(impl->s(), impl->lineAbove(impl->e())));
+    impl->applySelection(Range(impl->s(), impl->onLine(lineAboveOffset, impl->e())));
 }
-void TextEditingSession::moveSelectionDown() { impl->caretTo(impl->lineBelow(impl->e())); }
+void TextEditingSession::moveSelectionDown() { impl->caretTo(impl->onLine(lineBelowOffset, impl->e())); }
 void TextEditingSession::moveSelectionDownAndModifySelection() {
-    impl->applySelection(Range(impl->s(), impl->lineBelow(impl->e())));
+    impl->applySelection(Range(impl->s(), impl->onLine(lineBelowOffset, impl->e())));
 }
 void TextEditingSession::moveSelectionToBeginning() { impl->caretTo(0); }
 void TextEditingSession::moveSelectionToBeginningAndModifySelection() {
@@ -202,15 +194,17 @@ void TextEditingSession::moveSelectionToEnd() { impl->caretTo(impl->length()); }
 void TextEditingSession::moveSelectionToEndAndModifySelection() {
     impl->applySelection(Range(std::min(impl->s(), impl->e()), impl->length()));
 }
-void TextEditingSession::moveSelectionToBeginningOfLine() { impl->caretTo(impl->lineStart(impl->s())); }
+void TextEditingSession::moveSelectionToBeginningOfLine() { impl->caretTo(impl->onLine(startOfLineOffset, impl->s())); }
 void TextEditingSession::moveSelectionToBeginningOfLineAndModifySelection() {
     int const s = impl->s(), e = impl->e();
-    impl->applySelection(s < e ? Range(impl->lineStart(s), e) : Range(s, impl->lineStart(e)));
+    impl->applySelection(s < e ? Range(impl->onLine(startOfLineOffset, s), e)
+                               : Range(s, impl->onLine(startOfLineOffset, e)));
 }
-void TextEditingSession::moveSelectionToEndOfLine() { impl->caretTo(impl->lineEnd(impl->e())); }
+void TextEditingSession::moveSelectionToEndOfLine() { impl->caretTo(impl->onLine(endOfLineOffset, impl->e())); }
 void TextEditingSession::moveSelectionToEndOfLineAndModifySelection() {
     int const s = impl->s(), e = impl->e();
-    impl->applySelection(s > e ? Range(impl->lineEnd(s), e) : Range(s, impl->lineEnd(e)));
+    impl->applySelection(s > e ? Range(impl->onLine(endOfLineOffset, s), e)
+                               : Range(s, impl->onLine(endOfLineOffset, e)));
 }
 void TextEditingSession::moveSelectionWordLeft() { impl->caretTo(impl->wordLeft(impl->s())); }
 void TextEditingSession::moveSelectionWordLeftAndModifySelection() {

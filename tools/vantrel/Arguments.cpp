@@ -1,5 +1,6 @@
 #include "Arguments.h"
 
+#include <algorithm>
 #include <cctype>
 #include <cmath>
 #include <cstdlib>
@@ -52,6 +53,49 @@ std::string oneOf(std::string const &option, std::string const &text, std::vecto
         if (w == text)
             return text;
     throw UsageError("bad value '" + text + "' for " + option + ": expected one of " + oneOfList(words));
+}
+
+namespace {
+
+bool setTextOption(Settings &s, std::string const &a, std::string const &v) {
+    if (a == "--text") {
+        s.text = v;
+    } else if (a == "--font") {
+        s.font = v;
+    } else if (a == "--font-size") {
+        s.fontSize = numbers(a, v, 1)[0];
+    } else if (a == "--color") {
+        s.color = colour(a, v);
+    } else if (a == "--box") {
+        std::vector<double> b = numbers(a, v, 4);
+        s.box = Rect(b[0], b[1], b[2], b[3]);
+    } else if (a == "--align") {
+        std::string t = oneOf(a, v, {"left", "center", "right"});
+        s.align = t == "left" ? Left : t == "center" ? Center : Right;
+    } else {
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+void readOptions(std::vector<std::string> const &args, std::string const &verb, Settings &settings,
+                 std::vector<std::string> const &switches,
+                 std::function<bool(std::string const &option, std::string const &value)> const &set) {
+    for (size_t i = 0; i < args.size(); ++i) {
+        std::string const &a = args[i];
+        if (std::find(switches.begin(), switches.end(), a) != switches.end()) {
+            set(a, "");
+            continue;
+        }
+        if (i + 1 >= args.size())
+            throw UsageError(a.size() > 1 && a[0] == '-' ? "option " + a + " needs a value"
+                                                         : "unexpected argument '" + a + "'");
+        std::string const &v = args[++i];
+        if (!setTextOption(settings, a, v) && !set(a, v))
+            throw UsageError("unknown option '" + a + "' for " + verb);
+    }
 }
 
 } // namespace VantrelTool

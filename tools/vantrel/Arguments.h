@@ -1,7 +1,11 @@
 // Reading the values of command-line options, shared by the verbs.
 #pragma once
 
+#include "Catalogue.h"
+
 #include <vantrel/values/Color.h>
+
+#include <functional>
 
 #include <stdexcept>
 #include <string>
@@ -22,5 +26,14 @@ Vantrel::Color colour(std::string const &option, std::string const &text);
 std::string oneOfList(std::vector<std::string> const &words);
 // text when it is one of words.
 std::string oneOf(std::string const &option, std::string const &text, std::vector<std::string> const &words);
+
+// The options of a verb: each switch named takes no value and is handed to
+// set with an empty one; every other option takes the next argument. The
+// text options --text, --font, --font-size, --color, --box and --align are
+// read into settings; set gets the rest and returns false for an option it
+// does not know, which is a UsageError naming the verb.
+void readOptions(std::vector<std::string> const &args, std::string const &verb, Settings &settings,
+                 std::vector<std::string> const &switches,
+                 std::function<bool(std::string const &option, std::string const &value)> const &set);
 
 } // namespace VantrelTool

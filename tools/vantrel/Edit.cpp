@@ -74,31 +74,18 @@ EditRequest parse(std::vector<std::string> const &args) {
     r.settings.text = "Hello wide world";
     r.settings.box = Rect(-100, -30, 100, 30);
     r.settings.color = kInk;
-    for (size_t i = 0; i < args.size(); ++i) {
-        std::string const &a = args[i];
-        if (a == "--flip-horizontally" || a == "--flip-vertically") {
-            (a == "--flip-horizontally" ? r.flipHorizontally : r.flipVertically) = true;
-            continue;
-        }
-        if (i + 1 >= args.size())
-            throw UsageError(a.size() > 1 && a[0] == '-' ? "option " + a + " needs a value"
-                                                         : "unexpected argument '" + a + "'");
-        std::string const &v = args[++i];
-        if (a == "-o" || a == "--output") {
-            r.output = v;
-        } else if (a == "--text") {
-            r.settings.text = v;
-        } else if (a == "--box") {
-            std::vector<double> b = numbers(a, v, 4);
-            r.settings.box = Rect(b[0], b[1], b[2], b[3]);
-        } else if (a == "--font-size") {
-            r.settings.fontSize = numbers(a, v, 1)[0];
-        } else if (a == "--keys") {
-            r.keys = v;
-        } else {
-            throw UsageError("unknown option '" + a + "' for edit");
-        }
-    }
+    readOptions(args, "edit", r.settings, {"--flip-horizontally", "--flip-vertically"},
+                [&](std::string const &a, std::string const &v) {
+                    if (a == "--flip-horizontally" || a == "--flip-vertically")
+                        (a == "--flip-horizontally" ? r.flipHorizontally : r.flipVertically) = true;
+                    else if (a == "-o" || a == "--output")
+                        r.output = v;
+                    else if (a == "--keys")
+                        r.keys = v;
+                    else
+                        return false;
+                    return true;
+                });
     if (r.output.empty())
         throw UsageError("edit needs -o FILE.png");
     return r;
@@ -174,7 +161,9 @@ std::string editUsage() {
                        "Options:\n"
                        "  --text TEXT               the text, UTF-8 (default 'Hello wide world')\n"
                        "  --box L,T,R,B             the text box (default -100,-30,100,30)\n"
-                       "  --font-size N             DejaVu Sans at N points (default 24)\n"
+                       "  --font-size N             size in points (default 24)\n"
+                       "  --font FAMILY, --color COLOR, --align A\n"
+                       "                            font (default DejaVu Sans), colour and alignment\n"
                        "  --flip-horizontally, --flip-vertically\n"
                        "                            the text drawn mirrored; clicks follow it\n"
                        "  --keys \"OP OP ...\"        the operations, in order\n"

@@ -28,37 +28,19 @@ SpritesRequest parse(std::vector<std::string> const &args) {
     r.settings.fontSize = 48;
     r.settings.box = Rect(-300, -80, 300, 80);
     r.settings.color = kInk;
-    for (size_t i = 0; i < args.size(); ++i) {
-        std::string const &a = args[i];
-        if (i + 1 >= args.size())
-            throw UsageError(a.size() > 1 && a[0] == '-' ? "option " + a + " needs a value"
-                                                         : "unexpected argument '" + a + "'");
-        std::string const &v = args[++i];
+    readOptions(args, "sprites", r.settings, {}, [&](std::string const &a, std::string const &v) {
         if (a == "-o" || a == "--output") {
             r.output = v;
         } else if (a == "--reassemble") {
             r.reassemble = v;
-        } else if (a == "--text") {
-            r.settings.text = v;
-        } else if (a == "--font") {
-            r.settings.font = v;
-        } else if (a == "--font-size") {
-            r.settings.fontSize = numbers(a, v, 1)[0];
-        } else if (a == "--color") {
-            r.settings.color = colour(a, v);
-        } else if (a == "--box") {
-            std::vector<double> b = numbers(a, v, 4);
-            r.settings.box = Rect(b[0], b[1], b[2], b[3]);
         } else if (a == "--scale") {
             std::vector<double> s = numbers(a, v, 2);
             r.scale = Point(s[0], s[1]);
-        } else if (a == "--align") {
-            std::string t = oneOf(a, v, {"left", "center", "right"});
-            r.settings.align = t == "left" ? Left : t == "center" ? Center : Right;
         } else {
-            throw UsageError("unknown option '" + a + "' for sprites");
+            return false;
         }
-    }
+        return true;
+    });
     if (r.output.empty())
         throw UsageError("sprites needs -o FILE.png");
     return r;
