@@ -39,3 +39,5 @@
 #include <vantrel/captions/Caption.h>
 
 #include <vantrel/sprites/SpriteSheet.h>
+
+#include <vantrel/sketch/SketchMotionCallout.h>

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstring>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -195,6 +196,17 @@ static int everyFamily() {
     Bitmap cells = sheet->TheBitmap();
     failures += sheet->NumItems() > 0 && cells.width() > 0 && sheet->LineItems().size() == 1 ? 0 : 1;
     failures += sheet->LayoutItem(2).bitmapRect == sheet->LayoutItem(3).bitmapRect ? 0 : 1; // "ll"
+
+    SketchMotionCallout sketch("<svg><path d=\"M0 0 L100 0 Q150 50 100 100\"/></svg>");
+    sketch.flipX = true;
+    sketch.drawProgressIntoContext(&context, 0.5, Color(0, 0, 0), 3, Rect(0, 0, 100, 60));
+    failures += sketch.totalPathLength() > 200 && sketch.motionPaths().commandLists.size() == 1 ? 0 : 1;
+    try {
+        SketchMotionCallout bad("<svg><path d=\"M0 0 X\"/></svg>");
+        failures += 1;
+    } catch (std::runtime_error const &e) {
+        failures += std::string(e.what()) == "Invalid SVG command" ? 0 : 1;
+    }
 
     Path path;
     path.AddArc(Point(0, 0), 20, 0, kPi);

@@ -211,12 +211,7 @@ std::vector<Option> const &options() {
          "N",
          "text-arrow: N pictures of the reveal from progress 0 to 1, the output\nnaming each by a pattern such as "
          "a-%03d.png",
-         [](Request &r, std::string const &f, std::string const &v) {
-             double const n = numbers(f, v, 1)[0];
-             if (!(n >= 1 && n <= 1000) || n != int(n))
-                 throw UsageError("bad value for --frames: expected a whole number from 1 to 1000");
-             r.frames = int(n);
-         }},
+         [](Request &r, std::string const &f, std::string const &v) { r.frames = frameCount(f, v); }},
         {{"--reference"},
          "W,H",
          "speech, text-arrow: the reference rect's size, which the Basic designs\nshrink to",
@@ -475,23 +470,6 @@ std::string drawUsage() {
 
 namespace {
 
-// One %d (with flags and a width at most), and no other conversion.
-bool isFramePattern(std::string const &pattern) {
-    int conversions = 0;
-    for (size_t i = 0; i < pattern.size(); ++i) {
-        if (pattern[i] != '%')
-            continue;
-        size_t j = i + 1;
-        while (j < pattern.size() && (std::isdigit((unsigned char)pattern[j]) || pattern[j] == '-'))
-            ++j;
-        if (j >= pattern.size() || pattern[j] != 'd' || j - i > 4)
-            return false;
-        ++conversions;
-        i = j;
-    }
-    return conversions == 1;
-}
-
 // The callout of kind in settings, drawn as the request asks into the PNG at
 // path: 0 when written, 1 when not; a UsageError for a callout without a
 // picture.
@@ -526,17 +504,11 @@ int runDraw(std::vector<std::string> const &args) {
         Kind const &kind = *findKind(*findFamily(r.family), r.variant);
         if (r.frames == 0)
             return writePicture(r, kind, r.settings, r.output);
-        if (!isFramePattern(r.output))
-            throw UsageError("--frames needs an output pattern with one %d, such as a-%03d.png");
-        for (int k = 0; k < r.frames; ++k) {
+        return writeFrames(r.output, r.frames, [&](double progress, std::string const &path) {
             Settings frame = r.settings;
-            frame.progress = r.frames == 1 ? 1.0 : double(k) / (r.frames - 1);
-            std::vector<char> name(r.output.size() + 16);
-            std::snprintf(name.data(), name.size(), r.output.c_str(), k);
-            if (int status = writePicture(r, kind, frame, name.data()))
-                return status;
-        }
-        return 0;
+            frame.progress = progress;
+            return writePicture(r, kind, frame, path);
+        });
     } catch (UsageError const &e) {
         std::cerr << "vantrel: " << e.what() << " (see 'vantrel draw --help')\n";
         return 2;

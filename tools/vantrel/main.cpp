@@ -3,6 +3,7 @@
 #include "Edit.h"
 #include "Gallery.h"
 #include "PresetsTable.h"
+#include "Sketch.h"
 #include "Sprites.h"
 
 #include <cstring>
@@ -26,6 +27,8 @@ Commands:
                         lists the operations
   sprites               cut a text into a sprite sheet of its clusters and write
                         the sheet and its layout; 'vantrel sprites --help'
+  sketch [DRAWING.svg]  reveal an SVG drawing as a pen would write it, at a
+                        progress or as frames; 'vantrel sketch --help'
   presets               print the class each Presets function makes in each
                         theme, or null
   help                  show this text
@@ -75,7 +78,8 @@ int main(int argc, char **argv) {
         std::cout << kUsage << '\n'
                   << VantrelTool::drawUsage() << '\n'
                   << VantrelTool::editUsage() << '\n'
-                  << VantrelTool::spritesUsage();
+                  << VantrelTool::spritesUsage() << '\n'
+                  << VantrelTool::sketchUsage();
         return 0;
     }
     if (command == "draw")
@@ -86,6 +90,8 @@ int main(int argc, char **argv) {
         return VantrelTool::runEdit(args);
     if (command == "sprites")
         return VantrelTool::runSprites(args);
+    if (command == "sketch")
+        return VantrelTool::runSketch(args);
     if (command == "presets")
         return VantrelTool::runPresets(args);
     return usageError("unknown command '" + command + "'");

@@ -56,6 +56,7 @@ std::vector<Section> sections() {
     addEditingSections(all);
     addCaptionSections(all);
     addSpriteSections(all);
+    addSketchSections(all);
     return all;
 }
 

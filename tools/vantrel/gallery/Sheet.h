@@ -61,5 +61,6 @@ void addRectangleSections(std::vector<Section> &all);
 void addEditingSections(std::vector<Section> &all);
 void addCaptionSections(std::vector<Section> &all);
 void addSpriteSections(std::vector<Section> &all);
+void addSketchSections(std::vector<Section> &all);
 
 } // namespace VantrelTool
