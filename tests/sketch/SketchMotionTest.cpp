@@ -307,6 +307,9 @@ TEST(SketchMotionTest, FitsMirrorsAndStaysInsideTheRect) {
 
     auto none = draw(0, false, false);
     EXPECT_EQ(inkBounds(none->bitmap), Rect());
+    PathLog log;
+    callout.drawProgressIntoContext(&log, 0, Color(0, 0, 0), 6, rect);
+    EXPECT_EQ(log.calls, (std::vector<std::string>{"save", "save", "restore", "restore"}));
 }
 
 TEST(SketchMotionTest, HostileInputDrawsADefinedResult) {

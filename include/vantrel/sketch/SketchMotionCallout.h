@@ -45,6 +45,9 @@ struct VANTREL_EXPORT SketchMotionPaths {
 // change. Like every object of the library it belongs to one thread at a
 // time: drawing writes the fitted copy.
 //
+// A picture of length 0 (no path, only moves, or a lone point) draws
+// nothing at any progress.
+//
 // Input outside the contract, in drawProgressIntoContext: a progress that is
 // NaN, 0 or below draws nothing, and one above 1 (infinity included) draws
 // the whole picture. Nothing is drawn into a rect with a coordinate that is
