@@ -12,7 +12,8 @@ SANITIZE_ENV := G_SLICE=always-malloc ASAN_OPTIONS=detect_leaks=1:abort_on_error
                 LSAN_OPTIONS=suppressions=$(CURDIR)/tests/sanitizer/lsan.supp:print_suppressions=0 \
                 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
 
-.PHONY: all deps build test test-plain test-asan test-tsan gallery gallery-golden bench install clean
+.PHONY: all deps build test test-plain test-asan test-tsan test-fuzz fuzz fuzz-build gallery gallery-golden bench \
+        install clean
 
 all: build
 
@@ -23,7 +24,7 @@ build: deps
 	@cmake -S . -B build $(CMAKE_FLAGS) > /dev/null
 	@cmake --build build -j $(JOBS)
 
-test: test-plain test-asan test-tsan
+test: test-plain test-asan test-tsan test-fuzz
 
 test-plain: build
 	cd build && ctest -j $(JOBS) --output-on-failure
@@ -37,6 +38,27 @@ test-tsan: deps
 	@cmake -S . -B build-tsan $(SANITIZE_FLAGS) -DVANTREL_SANITIZE=thread -DVANTREL_ONLY_THREADED_TESTS=ON > /dev/null
 	@cmake --build build-tsan -j $(JOBS)
 	cd build-tsan && G_SLICE=always-malloc TSAN_OPTIONS=halt_on_error=1:suppressions=$(CURDIR)/tests/sanitizer/tsan.supp ctest -j $(JOBS) -L threaded --output-on-failure
+
+# The fuzz harnesses: clang's libFuzzer over a library built with the fuzzer's
+# coverage and AddressSanitizer + UndefinedBehaviorSanitizer. 'make fuzz' runs
+# each for FUZZ_SECONDS, 'make fuzz TARGET=svg' one; 'make test' runs each
+# for FUZZ_RUNS inputs from its seeds.
+FUZZ_SECONDS ?= 600
+FUZZ_RUNS ?= 500
+FUZZ_HARNESSES := svg custompath colour attributes utf8 union
+FUZZ_FLAGS := -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG="-O2 -g" -DCMAKE_CXX_COMPILER=clang++-14 \
+              -DVANTREL_SANITIZE=fuzzer-no-link,address,undefined -DVANTREL_BUILD_FUZZ=ON \
+              -DVANTREL_BUILD_TESTS=OFF -DVANTREL_BUILD_TOOLS=OFF
+
+fuzz-build: deps
+	@cmake -S . -B build-fuzz $(FUZZ_FLAGS) > /dev/null
+	@cmake --build build-fuzz -j $(JOBS)
+
+fuzz: fuzz-build
+	scripts/run-fuzz build-fuzz seconds $(FUZZ_SECONDS) $(or $(TARGET),$(FUZZ_HARNESSES))
+
+test-fuzz: fuzz-build
+	scripts/run-fuzz build-fuzz runs $(FUZZ_RUNS) $(FUZZ_HARNESSES)
 
 gallery: build
 	build/tools/vantrel/vantrel gallery -o gallery.png
@@ -57,4 +79,4 @@ install: build
 	cmake --install build --prefix $(PREFIX)
 
 clean:
-	rm -rf build build-asan build-tsan build-bench gallery.png
+	rm -rf build build-asan build-tsan build-bench build-fuzz gallery.png

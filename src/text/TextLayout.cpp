@@ -93,9 +93,18 @@ TextAttributeList prepareAttributesForLayout(TextAttributeList const &attributes
     prepared.applyCharacterSpacing();
     prepared.addPangoAttribute(pango_attr_font_features_new(properties.ligatures ? "liga 1" : "liga 0"));
     guint const size = guint(properties.text.size());
-    for (PangoAttribute *a : prepared.pangoAttributes())
+    for (PangoAttribute *a : prepared.pangoAttributes()) {
         if (a->end_index == size)
             a->end_index = size + 1;
+        // cairo makes no font of a size of 0 or below, nor FreeType one above
+        // 65535 pixels; the error font it hands out instead draws nothing and
+        // is never released.
+        TextAttributeList::AttributeType type = TextAttributeList::typeOfPangoAttribute(a);
+        if (type == TextAttributeList::FontSize || type == TextAttributeList::AbsoluteSize) {
+            int &units = reinterpret_cast<PangoAttrSize *>(a)->size;
+            units = std::max(1, std::min(units, kMaxLayoutFontSize * PANGO_SCALE));
+        }
+    }
     return prepared;
 }
 

@@ -37,8 +37,10 @@ double fontScaleForLayout(PangoLayout *layout, TextCalloutProperties const &prop
                           TextAttributeList const &attributes);
 
 // The private copy of a list that a layout is given: character spacing
-// applied, ligatures on or off, and attributes that reach the end of the
-// text extended by one byte.
+// applied, ligatures on or off, attributes that reach the end of the text
+// extended by one byte, and font sizes held to 1/1024 .. kMaxLayoutFontSize
+// points (a point is a pixel here).
+constexpr int kMaxLayoutFontSize = 65535;
 TextAttributeList prepareAttributesForLayout(TextAttributeList const &attributes,
                                              TextCalloutProperties const &properties);
 

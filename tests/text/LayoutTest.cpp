@@ -75,6 +75,19 @@ TEST_F(TextTest, SpacingAndPreparedAttributes) {
     EXPECT_TRUE(sawExtended);
     for (PangoAttribute *attribute : a.pangoAttributes())
         EXPECT_LE(TextAttributeList::rangeOfPangoAttribute(attribute).end(), 5);
+
+    // Sizes cairo can make a font of: its error font for the others was never released.
+    for (double points : {1e6, 0.0, -5.0}) {
+        SCOPED_TRACE(points);
+        TextAttributeList sized;
+        sized.addFontSizeAttribute(Range(0, 5), points);
+        TextAttributeList const held = prepareAttributesForLayout(sized, p);
+        for (PangoAttribute *attribute : held.pangoAttributes())
+            if (TextAttributeList::typeOfPangoAttribute(attribute) == TextAttributeList::FontSize) {
+                EXPECT_EQ(reinterpret_cast<PangoAttrSize *>(attribute)->size,
+                          points > 0 ? kMaxLayoutFontSize * PANGO_SCALE : 1);
+            }
+    }
 }
 
 TEST_F(TextTest, FitSearch) {

@@ -86,7 +86,9 @@ public:
     // is not stored.
     void addFGColorAttribute(Range const &range, Color const &color);
     void addFontNameAttribute(Range const &range, std::string const &family);
-    // Points, stored in pango units (PANGO_SCALE to a point), truncated.
+    // Points, stored in pango units (PANGO_SCALE to a point), truncated. A
+    // layout holds sizes to 1/1024 .. 65535 points, what cairo and FreeType
+    // can make a font of.
     void addFontSizeAttribute(Range const &range, double points);
     void addFontWeightAttribute(Range const &range, int weight);
     void addFontItalicAttribute(Range const &range, int italic);

@@ -1,0 +1,34 @@
+// What every harness shares: a property check that stops the run where a
+// property fails, and a small canvas to draw on.
+#pragma once
+
+#include <vantrel/Vantrel.h>
+
+#include <cstdio>
+#include <cstdlib>
+
+namespace VantrelFuzz {
+
+// Aborts, so that libFuzzer (or the replay test) reports the input.
+inline void check(bool holds, char const *property) {
+    if (!holds) {
+        std::fprintf(stderr, "property failed: %s\n", property);
+        std::abort();
+    }
+}
+
+// A cleared 64 by 64 bitmap with a context over it.
+struct Canvas {
+    Vantrel::Bitmap bitmap{64, 64};
+    Vantrel::CrossPlatformDrawingContext context{(bitmap.clear(), &bitmap)};
+
+    bool blank() const {
+        for (int y = 0; y < bitmap.height(); ++y)
+            for (int x = 0; x < bitmap.width(); ++x)
+                if (bitmap.bufAt(x, y)[3] != 0)
+                    return false;
+        return true;
+    }
+};
+
+} // namespace VantrelFuzz
