@@ -1,8 +1,10 @@
-// What every harness shares: a property check that stops the run where a
-// property fails, and a small canvas to draw on.
+// What the harnesses share: a property check that stops the run where a
+// property fails, a small canvas to draw on, and text offsets.
 #pragma once
 
 #include <vantrel/Vantrel.h>
+
+#include <fuzzer/FuzzedDataProvider.h>
 
 #include <cstdio>
 #include <cstdlib>
@@ -30,5 +32,13 @@ struct Canvas {
         return true;
     }
 };
+
+// An offset near a text of textSize bytes most of the time, anywhere in the
+// int range else.
+inline int offset(FuzzedDataProvider &in, int textSize) {
+    if (in.ConsumeIntegralInRange<int>(0, 7) == 0)
+        return in.ConsumeIntegral<int>();
+    return in.ConsumeIntegralInRange<int>(-4, textSize + 4);
+}
 
 } // namespace VantrelFuzz

@@ -12,14 +12,9 @@
 #include <vector>
 
 using namespace Vantrel;
+using VantrelFuzz::offset;
 
 namespace {
-
-int offset(FuzzedDataProvider &in, int textSize) {
-    if (in.ConsumeIntegralInRange<int>(0, 7) == 0)
-        return in.ConsumeIntegral<int>();
-    return in.ConsumeIntegralInRange<int>(-4, textSize + 4);
-}
 
 struct Exported : ICaptionExportObserver {
     int size = 0;
