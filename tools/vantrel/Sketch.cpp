@@ -48,9 +48,10 @@ SketchRequest parse(std::vector<std::string> args) {
                         r.progress = numbers(a, v, 1)[0];
                     else if (a == "--pen")
                         r.pen = numbers(a, v, 1)[0];
-                    else if (a == "--size")
-                        r.size = Point(numbers(a, v, 2)[0], numbers(a, v, 2)[1]);
-                    else if (a == "--frames")
+                    else if (a == "--size") {
+                        std::vector<double> const size = numbers(a, v, 2);
+                        r.size = Point(size[0], size[1]);
+                    } else if (a == "--frames")
                         r.frames = frameCount(a, v);
                     else if (a == "--flip-x")
                         r.flipX = true;
