@@ -1,5 +1,6 @@
 // What the harnesses share: a property check that stops the run where a
-// property fails, a small canvas to draw on, and text offsets.
+// property fails, a small canvas to draw on, text offsets, and an export
+// observer that checks where exported text lies.
 #pragma once
 
 #include <vantrel/Vantrel.h>
@@ -8,6 +9,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 
 namespace VantrelFuzz {
 
@@ -40,5 +42,20 @@ inline int offset(FuzzedDataProvider &in, int textSize) {
         return in.ConsumeIntegral<int>();
     return in.ConsumeIntegralInRange<int>(-4, textSize + 4);
 }
+
+// Checks that ExportText hands over only text and breaks inside a text of
+// size bytes.
+struct ExportedInside : Vantrel::ICaptionExportObserver {
+    explicit ExportedInside(int textSize) : size(textSize) {}
+    int size;
+    void exportText(int position, std::string const &text) override {
+        check(position >= 0 && position + int(text.size()) <= size, "exported text lies in the text");
+    }
+    void exportLineBreak(int position, bool) override {
+        check(position >= 0 && position <= size, "breaks lie in the text");
+    }
+    void exportBold(int, bool) override {}
+    void exportItalic(int, bool) override {}
+};
 
 } // namespace VantrelFuzz

@@ -15,6 +15,7 @@ extern "C" int replay_custompath(uint8_t const *, size_t);
 extern "C" int replay_colour(uint8_t const *, size_t);
 extern "C" int replay_attributes(uint8_t const *, size_t);
 extern "C" int replay_utf8(uint8_t const *, size_t);
+extern "C" int replay_textoffsets(uint8_t const *, size_t);
 extern "C" int replay_union(uint8_t const *, size_t);
 
 namespace {
@@ -49,7 +50,8 @@ TEST_P(FuzzReplay, SeedsAndRegressionsPass) {
 INSTANTIATE_TEST_SUITE_P(Harnesses, FuzzReplay,
                          ::testing::Values(Harness{"svg", replay_svg}, Harness{"custompath", replay_custompath},
                                            Harness{"colour", replay_colour}, Harness{"attributes", replay_attributes},
-                                           Harness{"utf8", replay_utf8}, Harness{"union", replay_union}),
+                                           Harness{"utf8", replay_utf8}, Harness{"textoffsets", replay_textoffsets},
+                                           Harness{"union", replay_union}),
                          [](::testing::TestParamInfo<Harness> const &info) { return std::string(info.param.name); });
 
 } // namespace
