@@ -12,8 +12,8 @@ SANITIZE_ENV := G_SLICE=always-malloc ASAN_OPTIONS=detect_leaks=1:abort_on_error
                 LSAN_OPTIONS=suppressions=$(CURDIR)/tests/sanitizer/lsan.supp:print_suppressions=0 \
                 UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
 
-.PHONY: all deps build test test-plain test-asan test-tsan test-fuzz fuzz fuzz-build gallery gallery-golden bench \
-        install clean
+.PHONY: all deps build test test-plain test-asan test-tsan tsan-build tsan-soak soak test-fuzz fuzz fuzz-build gallery \
+        gallery-golden bench install clean
 
 all: build
 
@@ -34,10 +34,27 @@ test-asan: deps
 	@cmake --build build-asan -j $(JOBS)
 	cd build-asan && $(SANITIZE_ENV) ctest -j $(JOBS) --output-on-failure
 
-test-tsan: deps
+TSAN_ENV := G_SLICE=always-malloc TSAN_OPTIONS=halt_on_error=1:suppressions=$(CURDIR)/tests/sanitizer/tsan.supp
+
+tsan-build: deps
 	@cmake -S . -B build-tsan $(SANITIZE_FLAGS) -DVANTREL_SANITIZE=thread -DVANTREL_ONLY_THREADED_TESTS=ON > /dev/null
 	@cmake --build build-tsan -j $(JOBS)
-	cd build-tsan && G_SLICE=always-malloc TSAN_OPTIONS=halt_on_error=1:suppressions=$(CURDIR)/tests/sanitizer/tsan.supp ctest -j $(JOBS) -L threaded --output-on-failure
+
+# The threaded tests run a few seconds each here, TSAN_SECONDS each in tsan-soak.
+test-tsan: tsan-build
+	cd build-tsan && $(TSAN_ENV) ctest -j $(JOBS) -L threaded --output-on-failure
+
+TSAN_SECONDS ?= 60
+tsan-soak: tsan-build
+	cd build-tsan && $(TSAN_ENV) VANTREL_THREAD_SECONDS=$(TSAN_SECONDS) ctest -j $(JOBS) -L threaded \
+	    --timeout $$(( $(TSAN_SECONDS) * 3 + 300 )) --output-on-failure
+
+# A long session in one plain process: every callout kind SOAK_ROUNDS times,
+# resident memory compared after the warm-up and at the end. 'make test' runs
+# 2,000 rounds.
+SOAK_ROUNDS ?= 100000
+soak: build
+	build/tests/vantrel_soak $(SOAK_ROUNDS)
 
 # The fuzz harnesses: clang's libFuzzer over a library built with the fuzzer's
 # coverage and AddressSanitizer + UndefinedBehaviorSanitizer. 'make fuzz' runs

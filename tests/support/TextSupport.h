@@ -11,6 +11,8 @@ class TextTest : public ::testing::Test {
 protected:
     TextTest() { Vantrel::PangoFonts::setLoadFallbackFonts(false); }
 
+public:
+
     // DejaVu Sans at size points over the whole text, in the colour given (none when alpha is 0).
     static Vantrel::TextAttributeList attributes(std::string const &text, double size,
                                                  Vantrel::Color colour = Vantrel::Color(0, 0, 0)) {
