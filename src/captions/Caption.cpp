@@ -1,6 +1,5 @@
-// The caption keeps a layout of the library's font map, so its build, every
-// walk of it and its release run under the layout lock. The context's layout
-// line operations take no lock of their own, so drawing holds it too.
+// The caption keeps a layout of the font map of the thread that built it;
+// see Caption.h for what that means for moving a caption between threads.
 #include <vantrel/captions/Caption.h>
 
 #include "drawing/SavedContextState.h"
@@ -15,7 +14,6 @@
 #include <climits>
 #include <cmath>
 #include <cstdint>
-#include <mutex>
 
 namespace Vantrel {
 
@@ -39,7 +37,7 @@ struct ShownLine {
     double baseline;
 };
 
-// The first count lines of the layout. Under the layout lock.
+// The first count lines of the layout.
 std::vector<ShownLine> firstLines(PangoLayout *layout, int count) {
     std::vector<ShownLine> lines;
     if (count < 1)
@@ -65,13 +63,11 @@ Caption::Caption(CaptionProperties const &properties, TextAttributeList const &a
     mAttributes.addFontFallbackAttribute(all, true);
     mTextProperties = TextCalloutProperties(properties.text, properties.rect, false, true, false, false, false,
                                             properties.alignment, Top, 0.0, "resizeText", WrapWordChar, true);
-    std::lock_guard<std::mutex> guard(layoutLock());
     mLayout = buildTextLayout(mTextProperties, mAttributes, false, margin, properties.maxLines < 0);
     mLineCount = lineCountOfLayout();
 }
 
 Caption::~Caption() {
-    std::lock_guard<std::mutex> guard(layoutLock());
     if (mLayout)
         g_object_unref(mLayout);
 }
@@ -96,7 +92,6 @@ int Caption::lineCountOfLayout() const {
 void Caption::DrawIntoContext(DrawingContext *context) const {
     if (!mLayout || !context)
         return;
-    std::lock_guard<std::mutex> guard(layoutLock());
     std::vector<ShownLine> const lines = firstLines(mLayout, mLineCount);
     if (lines.empty())
         return;
@@ -147,7 +142,6 @@ std::vector<int> Caption::GetWordWrapUTF8Indexes() const {
     std::vector<int> indexes;
     if (!mLayout)
         return indexes;
-    std::lock_guard<std::mutex> guard(layoutLock());
     PangoLayoutIter *it = pango_layout_get_iter(mLayout);
     size_t const shown = size_t(std::max(0, mLineCount));
     do {

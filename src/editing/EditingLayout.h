@@ -6,8 +6,8 @@
 // The text is the one the layout was built from. Every byte read is bounded
 // by the layout's own text and every index handed to pango lies within it,
 // so a text that has changed since, or an offset past its end, gives some
-// offset, never a read outside. The functions that take a layout run under
-// the layout lock.
+// offset, never a read outside. The functions that take a layout run on the
+// thread that built it.
 #pragma once
 
 #include <vantrel/text/TextCalloutProperties.h>

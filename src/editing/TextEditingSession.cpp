@@ -1,8 +1,6 @@
-// The session keeps a layout of the library's font map, so every use of it
-// runs under the layout lock. Observers are told after the lock is
-// released: an observer may draw the callout's text, which takes the lock
-// itself. The callout's trackingRect is read before the lock is taken too,
-// since measuring a callout may lay its text out.
+// The session keeps a layout of the font map of the thread that built it;
+// see TextEditingSession.h for what that means for moving a session between
+// threads.
 #include <vantrel/editing/TextEditingSession.h>
 
 #include "editing/EditingLayout.h"
@@ -11,7 +9,6 @@
 #include <vantrel/text/UTF8StringUtil.h>
 
 #include <algorithm>
-#include <mutex>
 
 namespace Vantrel {
 
@@ -44,7 +41,6 @@ struct TextEditingSession::Impl {
     Impl(TextCallout *callout_, TextEditingSessionObserver *observer_) : callout(callout_), observer(observer_) {}
 
     ~Impl() {
-        std::lock_guard<std::mutex> guard(layoutLock());
         if (layout)
             g_object_unref(layout);
     }
@@ -65,7 +61,6 @@ struct TextEditingSession::Impl {
     }
 
     void rebuild(bool fitToBox) {
-        std::lock_guard<std::mutex> guard(layoutLock());
         if (layout)
             g_object_unref(layout);
         layout = buildTextLayout(properties(), edited().textAttributeList(), fitToBox, 0, true);
@@ -85,11 +80,7 @@ struct TextEditingSession::Impl {
             observer->textChanged();
     }
 
-    // f(layout, text) under the layout lock.
-    template <class F> int withLayout(F const &f) const {
-        std::lock_guard<std::mutex> guard(layoutLock());
-        return f(layout, text());
-    }
+    template <class F> int withLayout(F const &f) const { return f(layout, text()); }
 
     int hitTest(Point const &point) const {
         Rect const tracking = edited().trackingRect();

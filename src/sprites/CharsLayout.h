@@ -81,7 +81,8 @@ public:
 };
 
 // The items and lines of the layout, each distinct cluster outlined once on
-// context (which is scaled by scale) and added to chars. Under the layout lock.
+// context (which is scaled by scale) and added to chars, on the thread that
+// built the layout.
 bool buildCharsLayout(CharsLayoutBase &chars, cairo_t *context, PangoLayout *layout, Point const &scale,
                       double bitmapScale, Point const &origin);
 

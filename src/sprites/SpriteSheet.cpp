@@ -1,13 +1,11 @@
-// A sheet keeps no layout: it is built under the layout lock, from the
-// layout's build to its release, since the glyph outlines come from the
-// layout's fonts.
+// A sheet keeps no layout: the layout is built, its glyph outlines drawn
+// and the layout released within FromText, on the calling thread.
 #include <vantrel/sprites/SpriteSheet.h>
 
 #include "sprites/CharsLayout.h"
 #include "text/TextLayout.h"
 
 #include <cmath>
-#include <mutex>
 
 namespace Vantrel {
 
@@ -63,7 +61,6 @@ std::shared_ptr<SpriteSheet> SpriteSheet::FromText(TextCalloutProperties const &
     sheet->impl->layoutRect = Rect(box.topLeft.MultipliedBy(scale), box.bottomRight.MultipliedBy(scale));
     if (!usableScale(scale))
         return sheet;
-    std::lock_guard<std::mutex> guard(layoutLock());
     PangoLayout *layout = buildTextLayout(properties, attributes, fitToBox, margin, unlimitedHeight);
     cairo_matrix_t matrix;
     textLayoutMatrix(properties, &matrix, layout);

@@ -19,8 +19,7 @@ namespace {
 // Clip to the box, build the layout and move into its space (flips about the
 // box's centre, its rounded corner, the alignment offsets, which are
 // returned). A transparent source stays current: text without a colour
-// attribute paints nothing. The caller holds the layout lock and restores the
-// context.
+// attribute paints nothing. The caller restores the context.
 PangoLayout *prepareText(cairo_t *cr, TextCalloutProperties const &properties, TextAttributeList const &attributes,
                          Point *offset) {
     Rect const &r = properties.textRect;
@@ -40,12 +39,12 @@ PangoLayout *prepareText(cairo_t *cr, TextCalloutProperties const &properties, T
     return layout;
 }
 
-// Text preparation for one operation, under the layout lock: the layout is
-// released and the context restored when it goes, the lock released last.
+// Text preparation for one operation: the layout is released and the
+// context restored when it goes.
 class PreparedText {
 public:
     PreparedText(cairo_t *cr_, TextCalloutProperties const &properties, TextAttributeList const &attributes)
-        : guard(layoutLock()), cr(cr_), layout(prepareText(cr_, properties, attributes, &offset)) {}
+        : cr(cr_), layout(prepareText(cr_, properties, attributes, &offset)) {}
     ~PreparedText() {
         if (layout)
             g_object_unref(layout);
@@ -54,7 +53,6 @@ public:
     PreparedText(PreparedText const &) = delete;
     PreparedText &operator=(PreparedText const &) = delete;
 
-    std::lock_guard<std::mutex> guard;
     cairo_t *cr;
     Point offset;
     PangoLayout *layout;
@@ -93,7 +91,6 @@ void fillMetadata(PangoLayout *layout, Point offset, DrawOutputMetaData *metadat
 
 void CrossPlatformDrawingContext::DrawTextW(TextCalloutProperties const &properties,
                                             TextAttributeList const &attributes, DrawOutputMetaData *metadata) {
-    std::lock_guard<std::mutex> drawing(textDrawingLock());
     PreparedText prepared(impl->cr, properties, attributes);
     if (!prepared.layout)
         return;
@@ -222,8 +219,7 @@ void CrossPlatformDrawingContext::DrawMisspelledRanges(TextCalloutProperties con
 }
 
 // The plain layout operations draw at the current point with the current
-// source. A layout of the library's font map is drawn by code that holds the
-// layout lock already, so they take no lock of their own.
+// source, on the thread that built the layout.
 void CrossPlatformDrawingContext::DrawPangoLayout(PangoLayout *layout) { pango_cairo_show_layout(impl->cr, layout); }
 
 void CrossPlatformDrawingContext::DrawPangoLayoutOutline(PangoLayout *layout) {

@@ -1,11 +1,13 @@
 #include "text/Fonts.h"
 
 #include "platform/FontFolders.h"
+#include "text/TextLayout.h"
 
 #include <vantrel/drawing/CrossPlatformDrawingContext.h>
 #include <vantrel/text/PangoFonts.h>
 #include <vantrel/text/TextAttributeList.h>
 
+#include <atomic>
 #include <cctype>
 #include <fontconfig/fontconfig.h>
 #include <ft2build.h>
@@ -23,18 +25,40 @@ namespace Vantrel {
 
 namespace {
 
-PangoFontMap *sFontMap = nullptr;
+// Registrations so far: a thread's font map made before the latest one is
+// made anew, since a font map reads fontconfig's fonts once.
+unsigned sRegistrations = 0;
 std::mutex sFontMapMutex;
 std::set<std::string> sLoadedFonts;
 std::set<std::string> sFailedFonts;
 std::vector<std::string> sFontSearchFolders;
-bool sLoadFallbackFonts = true;
+std::atomic<bool> sLoadFallbackFonts{true}; // a host may set it from any thread
 
 PangoFontMap *newFontMap() {
     PangoFontMap *map = pango_cairo_font_map_new_for_font_type(CAIRO_FONT_TYPE_FT);
     pango_cairo_font_map_set_resolution(PANGO_CAIRO_FONT_MAP(map), 72.0);
+    // The map copies fontconfig's font list at its first use; listing the
+    // families makes that happen now, under the layout lock, where no
+    // registration can change the list halfway.
+    PangoFontFamily **families = nullptr;
+    int count = 0;
+    pango_font_map_list_families(map, &families, &count);
+    g_free(families);
     return map;
 }
+
+// The font map of one thread, released when the thread ends. Layouts keep a
+// reference to their map through their context, so one made before a
+// replacement stays valid.
+struct ThreadFontMap {
+    PangoFontMap *map = nullptr;
+    unsigned registrations = 0;
+    ~ThreadFontMap() {
+        if (map)
+            g_object_unref(map);
+    }
+};
+thread_local ThreadFontMap tFontMap;
 
 // Lower case through the global locale's ctype, byte by byte.
 std::string lowered(std::string text) {
@@ -185,14 +209,24 @@ char const *const kFallbackFamilies[] = {"Arial",           "Yu Gothic",  "Malgu
 void PangoFonts::setLoadFallbackFonts(bool load) { sLoadFallbackFonts = load; }
 
 void CrossPlatformDrawingContext::addFontSearchFolder(std::string const &folder) {
+    // Under the layout lock, which every reader of the list holds.
+    std::lock_guard<std::mutex> guard(layoutLock());
     sFontSearchFolders.push_back(folder);
 }
 
 PangoFontMap *fontMap() {
-    std::lock_guard<std::mutex> guard(sFontMapMutex);
-    if (!sFontMap)
-        sFontMap = newFontMap();
-    return sFontMap;
+    unsigned registrations;
+    {
+        std::lock_guard<std::mutex> guard(sFontMapMutex);
+        registrations = sRegistrations;
+    }
+    if (!tFontMap.map || tFontMap.registrations != registrations) {
+        if (tFontMap.map)
+            g_object_unref(tFontMap.map);
+        tFontMap.map = newFontMap();
+        tFontMap.registrations = registrations;
+    }
+    return tFontMap.map;
 }
 
 std::vector<std::string> fontSearchFolders() { return sFontSearchFolders; }
@@ -223,11 +257,9 @@ bool loadFontFrom(std::string const &family, std::vector<std::string> const &can
         if (!FcConfigAppFontAddFile(nullptr, reinterpret_cast<FcChar8 const *>(path.c_str())))
             continue;
         ++registered;
-        // A new map sees the new file; contexts made from the old one keep their own reference.
+        // Every thread's next layout makes its map anew and so sees the file.
         std::lock_guard<std::mutex> guard(sFontMapMutex);
-        if (sFontMap)
-            g_object_unref(sFontMap);
-        sFontMap = newFontMap();
+        ++sRegistrations;
     }
     if (registered < 1) {
         sFailedFonts.insert(family);

@@ -1,5 +1,13 @@
-// Finding, matching and registering font files, and the font map. Every
-// function but fontMap() runs under the layout lock, which the caller holds.
+// Finding, matching and registering font files, and the font maps. Every
+// function here runs under the layout lock, which the caller holds.
+//
+// Each thread lays text out with a font map of its own, since pango does
+// not make a font map safe to share between threads. What stays
+// process-wide is the font search: files are found and registered once with
+// fontconfig as application fonts, which every font map reads, and the memo
+// sets remember each family once. A font map reads fontconfig's font list
+// once, so a registration makes every thread's map stale: its next layout
+// makes the map anew and sees the new file, whichever thread registered it.
 #pragma once
 
 #include <string>
@@ -11,7 +19,9 @@ namespace Vantrel {
 
 class TextAttributeList;
 
-// The process-wide font map, made at first use; not an added reference.
+// The calling thread's font map, made at its first text work (at 72 dots per
+// inch) and anew after a font file was registered; not an added reference.
+// Released when the thread ends.
 PangoFontMap *fontMap();
 // A copy of the host's search folders, in the order added.
 std::vector<std::string> fontSearchFolders();

@@ -21,7 +21,6 @@ TextCalloutProperties::TextCalloutProperties(std::string const &text_, Rect cons
 
 int TextCalloutUtil::calculateNumberOfPangoLayoutLines(TextCalloutProperties const &properties,
                                                        TextAttributeList const &attributes) {
-    std::lock_guard<std::mutex> guard(layoutLock());
     PangoLayout *layout = buildTextLayout(properties, attributes, true, 0, true);
     int lines = pango_layout_get_line_count(layout);
     g_object_unref(layout);
@@ -30,7 +29,6 @@ int TextCalloutUtil::calculateNumberOfPangoLayoutLines(TextCalloutProperties con
 
 std::vector<Range> TextCalloutUtil::lineRanges(TextCalloutProperties const &properties,
                                                TextAttributeList const &attributes) {
-    std::lock_guard<std::mutex> guard(layoutLock());
     PangoLayout *layout = buildTextLayout(properties, attributes, true, 0, true);
     std::vector<Range> ranges;
     PangoLayoutIter *it = pango_layout_get_iter(layout);

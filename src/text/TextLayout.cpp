@@ -17,11 +17,6 @@ std::mutex &layoutLock() {
     return lock;
 }
 
-std::mutex &textDrawingLock() {
-    static std::mutex lock;
-    return lock;
-}
-
 int wholePixelWidth(Rect const &r) { return r.IntWidth(); }
 int wholePixelHeight(Rect const &r) { return r.IntHeight(); }
 double roundedCoordinate(double v) { return std::round(v); }
@@ -111,12 +106,17 @@ TextAttributeList prepareAttributesForLayout(TextAttributeList const &attributes
 PangoLayout *buildTextLayout(TextCalloutProperties const &properties, TextAttributeList const &attributes,
                              bool fitToBox, double margin, bool unlimitedHeight) {
     Rect const box = properties.textRect.Expanded(-margin);
-    loadFallbackFonts(fontSearchFolders());
-    loadFontsOfAttributes(attributes);
+    PangoContext *context;
+    {
+        // The font search and the font maps are shared; the rest is the thread's own.
+        std::lock_guard<std::mutex> guard(layoutLock());
+        loadFallbackFonts(fontSearchFolders());
+        loadFontsOfAttributes(attributes);
+        context = pango_font_map_create_context(fontMap());
+    }
 
     PangoDirection direction =
         UTF8StringUtil::isRightToLeftLanguage(properties.text) ? PANGO_DIRECTION_RTL : PANGO_DIRECTION_LTR;
-    PangoContext *context = pango_font_map_create_context(fontMap());
     pango_context_set_base_dir(context, direction);
     PangoLayout *layout = pango_layout_new(context);
 
@@ -232,11 +232,10 @@ void textLayoutMatrix(TextCalloutProperties const &properties, cairo_matrix_t *m
     cairo_matrix_translate(matrix, offset.x, offset.y);
 }
 
-// The queries: each builds a layout under the layout lock and releases it there.
+// The queries: each builds a layout of the calling thread's font map and releases it.
 
 Point CrossPlatformDrawingContext::calculateDrawingDimensions(TextCalloutProperties const &properties,
                                                               TextAttributeList const &attributes) {
-    std::lock_guard<std::mutex> guard(layoutLock());
     PangoLayout *layout = buildTextLayout(properties, attributes, false, 0, true);
     int width = 0, height = 0;
     pango_layout_get_pixel_size(layout, &width, &height);
@@ -246,7 +245,6 @@ Point CrossPlatformDrawingContext::calculateDrawingDimensions(TextCalloutPropert
 
 double CrossPlatformDrawingContext::calculateDrawingFontScale(TextCalloutProperties const &properties,
                                                               TextAttributeList const &attributes) {
-    std::lock_guard<std::mutex> guard(layoutLock());
     PangoLayout *layout = buildTextLayout(properties, attributes, properties.resizesText(), 0, true);
     double scale = fontScaleForLayout(layout, properties, attributes);
     g_object_unref(layout);

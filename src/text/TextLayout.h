@@ -1,12 +1,15 @@
 // The one function that lays text out, and what is built on it.
 //
-// Threads: pango does not make a font map safe to share between threads, and
-// every layout shares the one process-wide font map. So the layout lock is
-// held over every use of a layout, not only while it is built: build, fit
-// search, measuring, painting and release all happen under it. Text work of
-// different threads is therefore serialised; each thread keeps its own
-// contexts and callouts. Locks are taken in this order and no other: the
-// text drawing mutex (DrawTextW), the layout lock, the font map mutex.
+// Threads: pango does not make a font map safe to share between threads, so
+// each thread lays text out with a font map of its own (Fonts.h). A layout
+// then belongs to the thread that built it: build, fit search, measuring,
+// painting and release need no process-wide lock, and text work of different
+// threads runs in parallel. What stays shared, the font search, the
+// registration of font files and the memo sets, runs under the layout lock,
+// which buildTextLayout takes for that part only; the font map mutex nests
+// inside it. A layout must not be used, nor released, on another thread
+// while the thread that built it may still do text work: its fonts live in
+// that thread's font map.
 #pragma once
 
 #include <vantrel/text/TextAttributeList.h>
@@ -19,20 +22,20 @@
 
 namespace Vantrel {
 
+// Held by buildTextLayout around the font work only; never by its callers.
 std::mutex &layoutLock();
-std::mutex &textDrawingLock();
 
 // Builds the layout of the properties' text with the attributes: fonts made
 // sure of, base direction from the first character, width and height of the
 // box less margin, alignment, line spacing, the prepared attributes, all-caps
 // on ASCII bytes, wrap, and with fitToBox the shrink to fit textRect. The
-// caller holds the layout lock, owns the layout and releases it with
-// g_object_unref under the lock.
+// caller owns the layout and releases it with g_object_unref on the same
+// thread.
 PangoLayout *buildTextLayout(TextCalloutProperties const &properties, TextAttributeList const &attributes,
                              bool fitToBox, double margin, bool unlimitedHeight);
 
 // The scale at which the layout's text fits textRect, by eight rounds of
-// bisection; 1 when resizeBehavior is not "resizeText". Under the layout lock.
+// bisection; 1 when resizeBehavior is not "resizeText".
 double fontScaleForLayout(PangoLayout *layout, TextCalloutProperties const &properties,
                           TextAttributeList const &attributes);
 

@@ -66,7 +66,6 @@ protected:
 
     // Where a character lies in the callout's own layout, in pixels.
     static Rect characterBox(TextCallout const &c, int offset) {
-        std::lock_guard<std::mutex> guard(layoutLock());
         PangoLayout *layout = buildTextLayout(c.textCalloutProperties(), c.textAttributeList(), true, 0, true);
         PangoRectangle pos;
         pango_layout_index_to_pos(
@@ -77,7 +76,6 @@ protected:
 
     // The line-helper results straight from a layout of the callout.
     static int onLayout(TextCallout const &c, std::function<int(PangoLayout *, std::string const &)> const &f) {
-        std::lock_guard<std::mutex> guard(layoutLock());
         PangoLayout *layout = buildTextLayout(c.textCalloutProperties(), c.textAttributeList(), true, 0, true);
         int result = f(layout, c.textCalloutProperties().text);
         g_object_unref(layout);

@@ -26,7 +26,6 @@ TEST_F(TextTest, PropertiesDefaultsAndDirection) {
     TextCalloutProperties arabic("\xD8\xB3\xD9\x84\xD8\xA7\xD9\x85", Rect(0, 0, 100, 50), false, true, false, false,
                                  false, Left, Top, 0, "resizeText", WrapWord, true);
     EXPECT_TRUE(arabic.isRightToLeft);
-    std::lock_guard<std::mutex> guard(layoutLock());
     PangoLayout *layout = layoutOf(arabic, attributes(arabic.text, 12), false);
     EXPECT_EQ(pango_context_get_base_dir(pango_layout_get_context(layout)), PANGO_DIRECTION_RTL);
     g_object_unref(layout);
@@ -60,7 +59,6 @@ TEST_F(TextTest, SpacingAndPreparedAttributes) {
     a.addFontWeightAttribute(Range(0, 4), 700);
     TextCalloutProperties p = box(text, Rect(0, 0, 200, 100));
     p.verticalSpace = 0.5;
-    std::lock_guard<std::mutex> guard(layoutLock());
     PangoLayout *layout = layoutOf(p, a, true);
     EXPECT_EQ(pango_layout_get_spacing(layout), 10 * PANGO_SCALE);
     g_object_unref(layout);
@@ -135,7 +133,6 @@ TEST_F(TextTest, OffsetsAndMatrix) {
     p.wordWrap = false;
     p.horizontalAlignment = Right;
     p.verticalAlignment = Bottom;
-    std::lock_guard<std::mutex> guard(layoutLock());
     PangoLayout *layout = layoutOf(p, attributes(p.text, 20), false);
     int w = 0, h = 0;
     pango_layout_get_pixel_size(layout, &w, &h);

@@ -64,7 +64,11 @@ public:
 // too long is cut by lines, and the wrap indexes tell the host where the
 // rest begins. It owns its layout, so it is neither copied nor moved; share
 // it by pointer. Like every object of the library it belongs to one thread
-// at a time.
+// at a time; more than that, since the layout it keeps lives in the font map
+// of the thread that built it (each thread lays text out with a map of its
+// own), a caption stays on the thread that made it. Handing it to another
+// thread is safe only once that thread has ended; while it may still lay
+// text out, the two threads would use one font map at once.
 //
 // Input outside the contract: a margin larger than half the box leaves no
 // room and no line fits (unless the box is of unlimited height). A margin

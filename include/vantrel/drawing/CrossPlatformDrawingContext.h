@@ -103,9 +103,10 @@ public:
     Bitmap *bitmap() const;
 
     // Adds a folder to search for font files after the system's, listed flat
-    // (not its subfolders). Add folders before drawing: the list is not
-    // guarded, and a family that was searched for and not found is not
-    // searched for again.
+    // (not its subfolders). Any thread may add one at any time; it serves the
+    // families searched for after it, on every thread. A family that was
+    // searched for and not found is not searched for again, so add folders
+    // before drawing text that needs them.
     static void addFontSearchFolder(std::string const &folder);
 
     // Text queries. Pixel width and height of the text at full size.

@@ -69,6 +69,13 @@ private:
 //
 // A session and its callout belong to one thread at a time. The session
 // owns its layout, so it can be neither copied nor moved; keep it by pointer.
+//
+// Threads: each thread lays text out with a font map of its own, and the
+// layout a session keeps lives in the font map of the thread that built it.
+// So a session stays on the thread that made it. Handing it to another
+// thread between calls is safe only once that thread has ended (the layout
+// keeps its font map alive); while it may still lay text out, the two
+// threads would use one font map at once, which pango does not allow.
 class VANTREL_EXPORT TextEditingSession {
 public:
     // The selection starts as (-1, -1); the layout is fitted to the box.
