@@ -68,15 +68,5 @@ Outcome work(int variant) {
 
 TEST(Threads, CaptionsAndSpriteSheetsOnFourThreadsGiveTheResultsOfOne) {
     PangoFonts::setLoadFallbackFonts(false);
-    int const kVariants = 6;
-    std::vector<Outcome> expected;
-    for (int v = 0; v < kVariants; ++v)
-        expected.push_back(work(v));
-    std::vector<int> mismatches(4, 0);
-    VantrelTest::runThreadsForAWhile(4, [&](int t, int round) {
-        int const v = (t + round) % kVariants;
-        mismatches[t] += !(work(v) == expected[v]);
-    });
-    for (int t = 0; t < 4; ++t)
-        EXPECT_EQ(mismatches[t], 0) << t;
+    EXPECT_EQ(VantrelTest::mismatchesAcrossThreads(4, 6, work), 0);
 }

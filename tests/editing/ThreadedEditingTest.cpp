@@ -60,15 +60,5 @@ Outcome edit(int script) {
 
 TEST(Threads, FourEditingSessionsEndAsOnOneThread) {
     PangoFonts::setLoadFallbackFonts(false);
-    int const kScripts = 6;
-    std::vector<Outcome> expected;
-    for (int s = 0; s < kScripts; ++s)
-        expected.push_back(edit(s));
-    std::vector<int> mismatches(4, 0);
-    VantrelTest::runThreadsForAWhile(4, [&](int t, int round) {
-        int const s = (t + round) % kScripts;
-        mismatches[t] += !(edit(s) == expected[s]);
-    });
-    for (int t = 0; t < 4; ++t)
-        EXPECT_EQ(mismatches[t], 0) << t;
+    EXPECT_EQ(VantrelTest::mismatchesAcrossThreads(4, 6, edit), 0);
 }

@@ -38,6 +38,21 @@ template <class Work> long runThreadsForAWhile(int threads, Work work, int minim
     return rounds;
 }
 
+// Runs work(variant) for each variant on this thread, then on `threads`
+// threads for a while, each round another variant; returns how many results
+// of those threads differed from this thread's.
+template <class Work> int mismatchesAcrossThreads(int threads, int variants, Work work) {
+    std::vector<decltype(work(0))> expected;
+    for (int v = 0; v < variants; ++v)
+        expected.push_back(work(v));
+    std::atomic<int> mismatches{0};
+    runThreadsForAWhile(threads, [&](int t, int round) {
+        int const v = (t + round) % variants;
+        mismatches += !(work(v) == expected[v]);
+    });
+    return mismatches;
+}
+
 // A hash of every pixel, for comparing drawings made on different threads.
 inline unsigned long long pixelHash(Vantrel::Bitmap const &bitmap) {
     unsigned long long h = 1469598103934665603ull;

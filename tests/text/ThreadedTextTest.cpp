@@ -80,16 +80,7 @@ Results work(int variant) {
 
 TEST(Threads, TextFromEightThreadsGivesTheResultsOfOne) {
     PangoFonts::setLoadFallbackFonts(false);
-    std::vector<Results> expected;
-    for (int v = 0; v < kVariants; ++v)
-        expected.push_back(work(v));
-    std::vector<int> mismatches(8, 0);
-    VantrelTest::runThreadsForAWhile(8, [&](int t, int round) {
-        int const v = (t + round) % kVariants;
-        mismatches[t] += !(work(v) == expected[v]);
-    });
-    for (int t = 0; t < 8; ++t)
-        EXPECT_EQ(mismatches[t], 0) << t;
+    EXPECT_EQ(VantrelTest::mismatchesAcrossThreads(8, kVariants, work), 0);
 }
 
 namespace {
