@@ -80,13 +80,9 @@ struct TextEditingSession::Impl {
             observer->textChanged();
     }
 
-    template <class F> int withLayout(F const &f) const { return f(layout, text()); }
-
     int hitTest(Point const &point) const {
         Rect const tracking = edited().trackingRect();
-        return withLayout([&](PangoLayout *l, std::string const &t) {
-            return characterAtLayoutPoint(l, t, layoutPointForPoint(properties(), tracking, l, point));
-        });
+        return characterAtLayoutPoint(layout, text(), layoutPointForPoint(properties(), tracking, layout, point));
     }
 
     // Left and right change places for right-to-left text, with an observer only.
@@ -94,7 +90,7 @@ struct TextEditingSession::Impl {
 
     // A line helper of the layout (lineAboveOffset, endOfLineOffset, ...) at offset.
     int onLine(int (*helper)(PangoLayout *, std::string const &, int), int offset) const {
-        return withLayout([&](PangoLayout *l, std::string const &t) { return helper(l, t, offset); });
+        return helper(layout, text(), offset);
     }
     int wordLeft(int offset) const {
         return reversed() ? wordEndOffset(text(), offset) : wordStartOffset(text(), offset);
