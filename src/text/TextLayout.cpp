@@ -9,6 +9,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
+#include <vector>
 
 namespace Vantrel {
 
@@ -80,7 +82,50 @@ void scaleSizes(TextAttributeList &list, double scale) {
     }
 }
 
+// Where pango's copy of the text begins a character: pango reads the text
+// up to its first zero byte and makes every byte that is not part of valid
+// UTF-8 a character of its own. starts[i] for 0 <= i <= the length it reads.
+std::vector<bool> pangoCharacterStarts(std::string const &text) {
+    size_t const length = std::strlen(text.c_str());
+    std::vector<bool> starts(length + 1, false);
+    char const *const begin = text.c_str();
+    size_t pos = 0;
+    while (pos < length) {
+        char const *end = nullptr;
+        g_utf8_validate(begin + pos, gssize(std::min(length - pos, size_t(G_MAXSSIZE))), &end);
+        size_t const valid = size_t(end - begin);
+        for (; pos < valid; pos = size_t(g_utf8_next_char(begin + pos) - begin))
+            starts[pos] = true;
+        if (pos < length) // an invalid byte, a character by itself
+            starts[pos++] = true;
+    }
+    starts[length] = true;
+    return starts;
+}
+
+// Moves an offset inside a character back to that character's start.
+guint snappedOffset(std::vector<bool> const &starts, guint offset) {
+    if (offset >= starts.size())
+        return offset; // at or beyond the end of what pango reads
+    while (offset > 0 && !starts[offset])
+        --offset;
+    return offset;
+}
+
+gboolean snapAttributeToCharacters(PangoAttribute *attribute, gpointer data) {
+    std::vector<bool> const &starts = *static_cast<std::vector<bool> const *>(data);
+    attribute->start_index = snappedOffset(starts, attribute->start_index);
+    attribute->end_index = snappedOffset(starts, attribute->end_index);
+    return FALSE; // keeps every attribute
+}
+
 } // namespace
+
+void snapAttributesToCharacters(PangoAttrList *list, std::string const &text) {
+    std::vector<bool> const starts = pangoCharacterStarts(text);
+    // Snapping is monotonic, so the list's order by start stays as it is.
+    pango_attr_list_filter(list, snapAttributeToCharacters, const_cast<std::vector<bool> *>(&starts));
+}
 
 TextAttributeList prepareAttributesForLayout(TextAttributeList const &attributes,
                                              TextCalloutProperties const &properties) {
@@ -100,6 +145,7 @@ TextAttributeList prepareAttributesForLayout(TextAttributeList const &attributes
             units = std::max(1, std::min(units, kMaxLayoutFontSize * PANGO_SCALE));
         }
     }
+    snapAttributesToCharacters(prepared.pangoAttrList(), properties.text);
     return prepared;
 }
 

@@ -41,11 +41,21 @@ double fontScaleForLayout(PangoLayout *layout, TextCalloutProperties const &prop
 
 // The private copy of a list that a layout is given: character spacing
 // applied, ligatures on or off, attributes that reach the end of the text
-// extended by one byte, and font sizes held to 1/1024 .. kMaxLayoutFontSize
-// points (a point is a pixel here).
+// extended by one byte, font sizes held to 1/1024 .. kMaxLayoutFontSize
+// points (a point is a pixel here), and every range on character boundaries
+// (snapAttributesToCharacters).
 constexpr int kMaxLayoutFontSize = 65535;
 TextAttributeList prepareAttributesForLayout(TextAttributeList const &attributes,
                                              TextCalloutProperties const &properties);
+
+// Byte offsets are never an error, but pango must not be given a range that
+// starts or ends inside a character: its line breaking then writes past its
+// own arrays. Every start and end of the list that falls inside a character
+// of the text, as pango reads it, moves back to that character's start: a
+// range from inside one character to inside another covers the first and
+// not the second, the same rule for start and end. Offsets at or
+// beyond the end of the text stay as they are.
+void snapAttributesToCharacters(PangoAttrList *list, std::string const &text);
 
 double horizontalTextOffset(TextHorizontalAlignment alignment, PangoLayout *layout, double boxWidth, bool wrapped);
 double verticalTextOffset(TextVerticalAlignment alignment, PangoLayout *layout, double boxHeight);
