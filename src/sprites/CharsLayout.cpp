@@ -11,6 +11,7 @@
 #include <cstring>
 #include <cwctype>
 #include <glib.h>
+#include <limits>
 #include <map>
 #include <pango/pangocairo.h>
 #include <tuple>
@@ -29,6 +30,12 @@ int CharsLayoutBitmap::addShape(cairo_t *context, Color const &color, Point cons
     shapes.push_back({path, color, scale, Rect(x1, y1, x2, y2), saturatingInt(std::floor(scale.x * x1) - 1),
                       saturatingInt(std::floor(scale.y * y1) - 1), saturatingInt(std::ceil(scale.x * x2) + 1),
                       saturatingInt(std::ceil(scale.y * y2) + 1)});
+    return int(shapes.size() - 1);
+}
+
+int CharsLayoutBitmap::addOversizedShape(Color const &color, Point const &scale) {
+    int const huge = std::numeric_limits<int>::max();
+    shapes.push_back({nullptr, color, scale, Rect(), 0, 0, huge, huge});
     return int(shapes.size() - 1);
 }
 
@@ -154,6 +161,21 @@ bool startsWithSpace(char const *text, int start, int end) {
     return std::iswspace(wint_t(c)) != 0;
 }
 
+// An underline or strikethrough under a cluster of the given width: at
+// position above the baseline, of thickness, both in pango units.
+Rect decoration(double width, int position, int thickness) {
+    double const top = -pango_units_to_double(position);
+    return Rect(0, top, width, top + pango_units_to_double(thickness));
+}
+
+// Whether an outline within reach (relative to the cluster's origin,
+// unscaled) stays inside cairo's coordinate range at this scale.
+bool withinOutlineRange(Rect const &reach, Point const &scale) {
+    double const x = std::fmax(std::fabs(reach.Left()), std::fabs(reach.Right())) * scale.x;
+    double const y = std::fmax(std::fabs(reach.Top()), std::fabs(reach.Bottom())) * scale.y;
+    return x <= kMaxOutlineCoordinate && y <= kMaxOutlineCoordinate; // false for NaN too
+}
+
 } // namespace
 
 bool buildCharsLayout(CharsLayoutBase &chars, cairo_t *context, PangoLayout *layout, Point const &scale,
@@ -164,31 +186,34 @@ bool buildCharsLayout(CharsLayoutBase &chars, cairo_t *context, PangoLayout *lay
     auto characterAt = [&](int index) { return offsetOf[size_t(std::max(0, std::min(index, size)))]; };
     size_t const characters = size_t(offsetOf.back()) + 1;
 
-    // Every character's logical rectangle, and the word it belongs to. Words
-    // are counted in the order of the walk and stored by each character's
-    // own offset, so that the end of a wrapped line, which the walk visits
-    // at the next line's first character, shifts nothing.
+    // Every character's logical rectangle, from a walk of the layout.
     std::vector<Rect> rectOf(characters);
     std::vector<bool> hasRect(characters, false);
-    std::vector<int> wordOf(characters, -1);
-    int word = -1;
-    bool previousWasSpace = true;
     PangoLayoutIter *it = pango_layout_get_iter(layout);
     do {
-        int const index = pango_layout_iter_get_index(it);
-        size_t const c = size_t(characterAt(index));
+        size_t const c = size_t(characterAt(pango_layout_iter_get_index(it)));
         PangoRectangle extents;
         pango_layout_iter_get_char_extents(it, &extents);
         rectOf[c] = scaled(extents, scale, origin);
         hasRect[c] = true;
-        unsigned char const byte = index >= 0 && index < size ? static_cast<unsigned char>(text[index]) : 0;
+    } while (pango_layout_iter_next_char(it));
+    pango_layout_iter_free(it);
+
+    // Words numbered in reading order, which is the text's own order: the
+    // walk above visits a right-to-left run from its visual left, and the
+    // end of a wrapped line twice, so numbers counted along it would run
+    // backwards in Hebrew and Arabic and shift at every wrap.
+    std::vector<int> wordOf(characters, -1);
+    int word = -1;
+    bool previousWasSpace = true;
+    for (int pos = 0; pos < size; pos = std::min(size, pos + int(g_utf8_skip[static_cast<unsigned char>(text[pos])]))) {
+        unsigned char const byte = static_cast<unsigned char>(text[pos]);
         bool const space = byte < 128 && std::isspace(byte);
         if (!space && previousWasSpace)
             ++word;
         previousWasSpace = space;
-        wordOf[c] = space ? -1 : word;
-    } while (pango_layout_iter_next_char(it));
-    pango_layout_iter_free(it);
+        wordOf[size_t(offsetOf[size_t(pos)])] = space ? -1 : word;
+    }
 
     std::map<ShapeKey, int> shapeOfKey;
     ShapeKey key{};
@@ -255,19 +280,35 @@ bool buildCharsLayout(CharsLayoutBase &chars, cairo_t *context, PangoLayout *lay
                 if (known != shapeOfKey.end()) {
                     shape = known->second;
                 } else {
-                    cairo_new_path(context);
-                    if (font && count > 0)
-                        pango_cairo_glyph_string_path(context, font, &view);
                     double const width = rect.Width() / scale.x;
+                    std::vector<Rect> decorations;
                     if (strikethrough && metrics)
-                        cairo_rectangle(
-                            context, 0, -pango_units_to_double(pango_font_metrics_get_strikethrough_position(metrics)),
-                            width, pango_units_to_double(pango_font_metrics_get_strikethrough_thickness(metrics)));
+                        decorations.push_back(decoration(width, pango_font_metrics_get_strikethrough_position(metrics),
+                                                         pango_font_metrics_get_strikethrough_thickness(metrics)));
                     if (underline && metrics)
-                        cairo_rectangle(
-                            context, 0, -pango_units_to_double(pango_font_metrics_get_underline_position(metrics)),
-                            width, pango_units_to_double(pango_font_metrics_get_underline_thickness(metrics)));
-                    shape = chars.addShape(context, color, scale * bitmapScale);
+                        decorations.push_back(decoration(width, pango_font_metrics_get_underline_position(metrics),
+                                                         pango_font_metrics_get_underline_thickness(metrics)));
+                    Rect reach;
+                    if (font && count > 0) {
+                        PangoRectangle ink;
+                        pango_glyph_string_extents(&view, font, &ink, nullptr);
+                        reach =
+                            Rect(pango_units_to_double(ink.x), pango_units_to_double(ink.y),
+                                 pango_units_to_double(ink.x + ink.width), pango_units_to_double(ink.y + ink.height));
+                    }
+                    for (Rect const &d : decorations)
+                        reach = Rect(std::fmin(reach.Left(), d.Left()), std::fmin(reach.Top(), d.Top()),
+                                     std::fmax(reach.Right(), d.Right()), std::fmax(reach.Bottom(), d.Bottom()));
+                    if (!withinOutlineRange(reach, scale)) {
+                        shape = chars.addOversizedShape(color, scale * bitmapScale);
+                    } else {
+                        cairo_new_path(context);
+                        if (font && count > 0)
+                            pango_cairo_glyph_string_path(context, font, &view);
+                        for (Rect const &d : decorations)
+                            cairo_rectangle(context, d.Left(), d.Top(), d.Width(), d.Height());
+                        shape = chars.addShape(context, color, scale * bitmapScale);
+                    }
                     shapeOfKey.emplace(key, shape);
                 }
                 if (shape < 0)

@@ -46,6 +46,9 @@ public:
     // Takes the context's current path as the outline of a new shape; its
     // index, or -1 for an empty path.
     virtual int addShape(cairo_t *context, Color const &color, Point const &scale) = 0;
+    // A shape whose outline would leave cairo's coordinate range at this
+    // scale, so is never outlined: it fits no sheet. -1 where nothing is packed.
+    virtual int addOversizedShape(Color const &, Point const &) { return -1; }
     // Places and rasterises the shapes; false when they do not fit.
     virtual bool finishLayout(cairo_t *) { return true; }
     // The shape's outline extents, relative to the cluster's origin, unscaled.
@@ -71,6 +74,7 @@ public:
     };
 
     int addShape(cairo_t *context, Color const &color, Point const &scale) override;
+    int addOversizedShape(Color const &color, Point const &scale) override;
     bool finishLayout(cairo_t *context) override;
     Rect shapeRect(int index) const override;
 
@@ -82,7 +86,12 @@ public:
 
 // The items and lines of the layout, each distinct cluster outlined once on
 // context (which is scaled by scale) and added to chars, on the thread that
-// built the layout.
+// built the layout. A cluster whose outline would reach beyond
+// kMaxOutlineCoordinate pixels from its origin at this scale is not
+// outlined: cairo keeps paths in 24.8 fixed point, and beyond about 8.4
+// million its coordinates wrap. Such a cluster is far too large for the
+// largest sheet at the smallest bitmap scale anyway, so the attempt fails.
+constexpr double kMaxOutlineCoordinate = 4194304.0;
 bool buildCharsLayout(CharsLayoutBase &chars, cairo_t *context, PangoLayout *layout, Point const &scale,
                       double bitmapScale, Point const &origin);
 

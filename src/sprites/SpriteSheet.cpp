@@ -45,9 +45,12 @@ public:
 
 namespace {
 
+// A scale that cairo can set: finite and above 0, with a finite product
+// above 0 (otherwise its matrix has no inverse and the context stops).
 bool usableScale(Point const &scale) {
-    auto usable = [](double v) { return std::isfinite(v) && v > 0 && v <= SpriteSheet::kMaxScale; };
-    return usable(scale.x) && usable(scale.y) && scale.x * scale.y > 0;
+    auto usable = [](double v) { return std::isfinite(v) && v > 0; };
+    double const product = scale.x * scale.y;
+    return usable(scale.x) && usable(scale.y) && std::isfinite(product) && product > 0;
 }
 
 } // namespace

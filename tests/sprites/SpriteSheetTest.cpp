@@ -189,16 +189,66 @@ TEST_F(SpriteTest, LargeGlyphsFallBackToSmallerCellsOrToNoBitmap) {
     EXPECT_EQ(empty.bitmap->size(), PointInt(32, 0));
 }
 
+TEST_F(SpriteTest, WordsAreNumberedInReadingOrderInEitherDirection) {
+    // Each case: the text, then each word's number of items from the left
+    // of the line, as (word, items) in the order the words stand on screen.
+    struct Case {
+        char const *name;
+        std::string text;
+        std::vector<std::pair<int, int>> fromTheLeft;
+    } const cases[] = {
+        {"right-to-left", "\xD7\x90\xD7\x91 \xD7\x92\xD7\x93", {{1, 2}, {0, 2}}},
+        {"right-to-left, words of two and three letters",
+         "\xD7\x90\xD7\x91 \xD7\x92\xD7\x93\xD7\x94",
+         {{1, 3}, {0, 2}}},
+        {"mixed", "abc \xD7\x90\xD7\x91 \xD7\x92\xD7\x93\xD7\x94 xy", {{0, 3}, {2, 3}, {1, 2}, {3, 2}}},
+    };
+    for (Case const &c : cases) {
+        SCOPED_TRACE(c.name);
+        std::shared_ptr<SpriteSheet> s = sheet(c.text, 30, Point(1, 1), Rect(0, 0, 800, 100));
+        std::vector<SpriteSheetLayoutItem> items = s->LayoutItems();
+        std::sort(items.begin(), items.end(), [](SpriteSheetLayoutItem const &a, SpriteSheetLayoutItem const &b) {
+            return a.rect.Left() < b.rect.Left();
+        });
+        std::vector<std::pair<int, int>> words;
+        for (SpriteSheetLayoutItem const &i : items) {
+            if (words.empty() || words.back().first != i.wordIndex)
+                words.push_back({i.wordIndex, 0});
+            ++words.back().second;
+        }
+        EXPECT_EQ(words, c.fromTheLeft);
+    }
+}
+
+TEST_F(SpriteTest, LargeScalesTakeSmallerBitmapScales) {
+    // A 20-point title cut at scale 40, as for a 4K frame: glyphs of about 800 pixels.
+    std::shared_ptr<SpriteSheet> title = sheet("Title", 20, Point(40, 40), Rect(0, 0, 200, 40));
+    ASSERT_EQ(title->NumItems(), 5);
+    EXPECT_GT(title->TheBitmap().width(), 0);
+    EXPECT_GT(title->LayoutItem(0).bitmapRect.Height() / title->LayoutItem(0).bitmapScale, 400);
+    // An em dash 20 points wide at 250 by 10: 5,000 pixels wide, so half.
+    std::shared_ptr<SpriteSheet> dash = sheet("\xE2\x80\x94", 20, Point(250, 10), Rect(0, 0, 100, 40));
+    ASSERT_EQ(dash->NumItems(), 1);
+    EXPECT_EQ(dash->LayoutItem(0).bitmapScale, 0.5);
+    EXPECT_GT(dash->TheBitmap().width(), 2048);
+}
+
 TEST_F(SpriteTest, HostileInputGivesBoundedSheets) {
     double const nan = std::nan(""), inf = std::numeric_limits<double>::infinity();
-    for (Point scale : {Point(0, 1), Point(-1, 1), Point(nan, 1), Point(inf, inf), Point(1e300, 1),
-                        Point(1e-200, 1e-200), Point(33, 1)}) {
+    for (Point scale :
+         {Point(0, 1), Point(-1, 1), Point(nan, 1), Point(inf, inf), Point(1e300, 1e300), Point(1e-200, 1e-200)}) {
         SCOPED_TRACE(scale);
         std::shared_ptr<SpriteSheet> s = sheet("abc", 20, scale);
         EXPECT_EQ(s->NumItems(), 0);
         EXPECT_TRUE(s->LineItems().empty());
         EXPECT_EQ(s->TheBitmap().width(), 0);
     }
+    // Glyphs beyond cairo's coordinate range at this scale are never
+    // outlined: no bitmap, items without cells.
+    std::shared_ptr<SpriteSheet> far = sheet("abc", 20, Point(1e300, 1));
+    EXPECT_EQ(far->TheBitmap().width(), 0);
+    EXPECT_EQ(far->NumItems(), 3);
+    EXPECT_EQ(far->LayoutItem(0).bitmapRect, Rect());
     // Many scripts, 100,000 characters: like clusters still share cells.
     std::string const scripts = "Latin \xCE\x95\xCE\xBB\xCE\xBB\xCE\xB7\xCE\xBD \xD0\xA0\xD1\x83\xD1\x81 "
                                 "\xD7\xA2\xD7\x91 \xD8\xB9\xD8\xB1\xD8\xA8 \xE4\xB8\xAD\xE6\x96\x87 "

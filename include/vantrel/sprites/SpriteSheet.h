@@ -25,8 +25,11 @@ struct SpriteSheetLayoutItem {
     Point origin;    // where the top-left of those pixels goes, in layout coordinates
     // x is 0; y is how far the centre of the item's line lies below the centre of the displayed piece.
     Point lineCenterOffset;
-    Rect rect;     // the logical rectangle of the cluster's first character
-    int wordIndex; // from 0; -1 for a character outside any word
+    Rect rect; // the logical rectangle of the cluster's first character
+    // From 0, in reading order (the text's order, whatever the direction of
+    // its lines: the first word of a Hebrew line is its rightmost); -1 for a
+    // character outside any word. Words are separated by ASCII white space.
+    int wordIndex;
     int lineIndex; // from 0
     // Bitmap pixels per layout unit: the piece is displayed at bitmapRect's
     // size divided by this.
@@ -52,9 +55,15 @@ class SpriteSheetImpl;
 // whose TheBitmap() is empty, and whose items, from the last attempt, have
 // empty bitmapRects.
 //
-// A scale with a component that is not a finite number above 0 and at most
-// kMaxScale (or whose product is not above 0) gives a sheet with no items,
-// no lines and no bitmap. LayoutItem with an index outside 0 ..
+// Any scale is taken, however large: a title cut at scale 40 for a 4K
+// frame gives glyphs hundreds of pixels tall, and the smaller bitmap scales
+// keep them within the sheet. A glyph so large at the scale given that its
+// outline would reach more than about four million pixels from its origin
+// (where cairo's fixed-point coordinates end) is not outlined; it could fit
+// no sheet at any bitmap scale, so such a sheet has no bitmap, like any text
+// too large, and its items come from the last attempt. A scale with a
+// component that is not a finite number above 0 (or whose product is not a
+// finite number above 0) gives a sheet with no items, no lines and no bitmap. LayoutItem with an index outside 0 ..
 // NumItems() - 1 gives an item of empty rects, at word and line -1.
 //
 // A sheet is immutable; like every object here it belongs to one thread at a time.
@@ -74,9 +83,6 @@ public:
     Rect LayoutRect() const;
     // A view of the sheet's pixels, which the sheet must outlive; Bitmap(0, 0) when there are none.
     Bitmap TheBitmap() const;
-
-    // Glyphs at larger scales would leave cairo's coordinate range when outlined.
-    static constexpr double kMaxScale = 32.0;
 
 private:
     std::shared_ptr<SpriteSheetImpl> impl;
