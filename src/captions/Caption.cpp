@@ -1,8 +1,9 @@
-// The caption keeps a layout of the font map of the thread that built it;
-// see Caption.h for what that means for moving a caption between threads.
+// The caption keeps its layout in a KeptLayout: a caption handed to another
+// thread builds it again there from the same inputs before its first use.
 #include <vantrel/captions/Caption.h>
 
 #include "drawing/SavedContextState.h"
+#include "text/KeptLayout.h"
 #include "text/TextLayout.h"
 
 #include <vantrel/drawing/DrawingContext.h>
@@ -63,20 +64,23 @@ Caption::Caption(CaptionProperties const &properties, TextAttributeList const &a
     mAttributes.addFontFallbackAttribute(all, true);
     mTextProperties = TextCalloutProperties(properties.text, properties.rect, false, true, false, false, false,
                                             properties.alignment, Top, 0.0, "resizeText", WrapWordChar, true);
-    mLayout = buildTextLayout(mTextProperties, mAttributes, false, margin, properties.maxLines < 0);
+    mLayout.reset(new KeptLayout());
     mLineCount = lineCountOfLayout();
 }
 
-Caption::~Caption() {
-    if (mLayout)
-        g_object_unref(mLayout);
+Caption::~Caption() = default;
+
+// The layout, built on the calling thread: at the first use, and again
+// whenever the caption is used on another thread than the last build's.
+PangoLayout *Caption::layout() const {
+    if (!mLayout->get() || !mLayout->isHome())
+        mLayout->reset(buildTextLayout(mTextProperties, mAttributes, false, mMargin, mProperties.maxLines < 0));
+    return mLayout->get();
 }
 
 // Lines up to maxLines, while each one's logical bottom lies within the box.
 int Caption::lineCountOfLayout() const {
-    if (!mLayout)
-        return 0;
-    PangoLayoutIter *it = pango_layout_get_iter(mLayout);
+    PangoLayoutIter *it = pango_layout_get_iter(layout());
     int index = 0;
     do {
         if (mProperties.maxLines >= 0 && index >= mProperties.maxLines)
@@ -90,9 +94,9 @@ int Caption::lineCountOfLayout() const {
 }
 
 void Caption::DrawIntoContext(DrawingContext *context) const {
-    if (!mLayout || !context)
+    if (!context)
         return;
-    std::vector<ShownLine> const lines = firstLines(mLayout, mLineCount);
+    std::vector<ShownLine> const lines = firstLines(layout(), mLineCount);
     if (lines.empty())
         return;
     Rect bounds = lines.front().logical;
@@ -140,9 +144,7 @@ void Caption::DrawIntoContext(DrawingContext *context) const {
 
 std::vector<int> Caption::GetWordWrapUTF8Indexes() const {
     std::vector<int> indexes;
-    if (!mLayout)
-        return indexes;
-    PangoLayoutIter *it = pango_layout_get_iter(mLayout);
+    PangoLayoutIter *it = pango_layout_get_iter(layout());
     size_t const shown = size_t(std::max(0, mLineCount));
     do {
         if (indexes.size() > shown)

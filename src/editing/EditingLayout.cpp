@@ -90,6 +90,48 @@ Point layoutPointForPoint(TextCalloutProperties const &properties, Rect const &t
     return p;
 }
 
+std::vector<bool> cursorStops(PangoLayout *layout, std::string const &text) {
+    int const length = UTF8StringUtil::length(text);
+    std::vector<bool> stops(size_t(length) + 1, true);
+    LayoutText const bytes(layout);
+    int attributeCount = 0;
+    PangoLogAttr const *attributes = pango_layout_get_log_attrs_readonly(layout, &attributeCount);
+    // pango numbers the characters of its own copy of the text; where that
+    // copy and the text disagree on a character's start, the start is a stop.
+    std::vector<int> pangoCharacterAt(size_t(bytes.size) + 1, -1);
+    int n = 0;
+    for (char const *p = bytes.bytes; p < bytes.bytes + bytes.size; p = g_utf8_next_char(p))
+        pangoCharacterAt[size_t(p - bytes.bytes)] = n++;
+    pangoCharacterAt[size_t(bytes.size)] = n;
+    int byte = 0;
+    for (int c = 0; c <= length; ++c) {
+        if (byte <= bytes.size) {
+            int const k = pangoCharacterAt[size_t(byte)];
+            if (k >= 0 && k < attributeCount)
+                stops[size_t(c)] = attributes[k].is_cursor_position;
+        }
+        if (c < length)
+            byte += int(g_utf8_skip[static_cast<unsigned char>(text[size_t(byte)])]);
+    }
+    stops.front() = stops.back() = true;
+    return stops;
+}
+
+int steppedToStop(std::vector<bool> const &stops, int offset, int d) {
+    int64_t t = int64_t(offset) + d;
+    int64_t const last = int64_t(stops.size()) - 1;
+    int const step = d < 0 ? -1 : 1;
+    while (d != 0 && t > 0 && t < last && !stops[size_t(t)])
+        t += step;
+    return int(std::max<int64_t>(INT32_MIN, std::min<int64_t>(INT32_MAX, t)));
+}
+
+int nearestStop(std::vector<bool> const &stops, int offset, int d) {
+    if (offset <= 0 || size_t(offset) >= stops.size() || stops[size_t(offset)])
+        return offset;
+    return steppedToStop(stops, offset, d < 0 ? -1 : 1);
+}
+
 int characterAtLayoutPoint(PangoLayout *layout, std::string const &text, Point const &point) {
     LayoutText const bytes(layout);
     int const x = pangoUnits(point.x), y = pangoUnits(point.y);
@@ -99,17 +141,19 @@ int characterAtLayoutPoint(PangoLayout *layout, std::string const &text, Point c
     bool const rightToLeft = UTF8StringUtil::isRightToLeftLanguage(text);
     PangoRectangle pos;
     pango_layout_index_to_pos(layout, index, &pos);
-    int c = UTF8StringUtil::characterOffsetFromByteOffset(text, index);
+    std::vector<bool> const stops = cursorStops(layout, text);
+    // The cluster clicked, from its start to the next stop.
+    int before = nearestStop(stops, UTF8StringUtil::characterOffsetFromByteOffset(text, index), -1);
     LineSpan const line = lineOf(layout, bytes, index);
     // The blank at which a line wrapped: the click lands in front of it.
     if (index == line.end - 1 && bytes.at(index) == ' ' && bytes.at(line.end) != '\n' && !line.last)
-        c -= 1;
-    if (rightToLeft)
-        c += 1;
+        before = steppedToStop(stops, before, -1);
+    int const after = steppedToStop(stops, before, 1);
     // A right-to-left character has a negative width, so the side of its
     // middle decides in both directions.
     int64_t const middle = int64_t(pos.x) + pos.width / 2;
-    return x > middle && x != 0 ? c + (rightToLeft ? -1 : 1) : c;
+    bool const pastMiddle = x > middle && x != 0;
+    return pastMiddle != rightToLeft ? after : before;
 }
 
 int startOfLineOffset(PangoLayout *layout, std::string const &text, int offset) {
@@ -199,14 +243,14 @@ int wordStartOffset(std::string const &text, int offset) {
     return 0;
 }
 
-Range caretMovedBy(Range const &selection, int d) {
+Range caretMovedBy(Range const &selection, int d, std::vector<bool> const &stops) {
     int const s = selection.start(), e = selection.end();
     if (s != e) {
         int const t = d < 0 ? std::min(s, e) : std::max(s, e);
         return Range(t, t);
     }
-    int64_t const t = std::max<int64_t>(INT32_MIN, std::min<int64_t>(INT32_MAX, int64_t(s) + d));
-    return Range(int32_t(t), int32_t(t));
+    int const t = steppedToStop(stops, s, d);
+    return Range(t, t);
 }
 
 Rect grownTextRect(Rect const &box, int width, int height) {

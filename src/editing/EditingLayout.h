@@ -17,6 +17,7 @@
 
 #include <pango/pango.h>
 #include <string>
+#include <vector>
 
 namespace Vantrel {
 
@@ -26,10 +27,23 @@ namespace Vantrel {
 Point layoutPointForPoint(TextCalloutProperties const &properties, Rect const &trackingRect, PangoLayout *layout,
                           Point const &point);
 
+// Where the caret may stand: for each character offset 0 .. length of the
+// text, whether it is one of pango's cursor positions (a grapheme cluster
+// boundary), so that the caret never splits a letter from its vowel sign or
+// an emoji sequence. Where every character is a cluster of its own, every
+// offset is a stop. Offsets where the layout's text and the text disagree
+// (a text changed since the layout) are stops.
+std::vector<bool> cursorStops(PangoLayout *layout, std::string const &text);
+// offset + d, then on in the same direction to the next stop. Offsets outside
+// the stops move by d alone; d of 0 stays.
+int steppedToStop(std::vector<bool> const &stops, int offset, int d);
+// The offset if it is a stop, else the next stop in the direction of d.
+int nearestStop(std::vector<bool> const &stops, int offset, int d);
+
 // The caret offset for a point of layout space. A click on the blank at
-// which a line wrapped lands in front of it; the side of the character's
+// which a line wrapped lands in front of it; the side of the cluster's
 // middle decides before or behind it, in either direction of text. The
-// result may lie one outside the text.
+// result is a stop, and may lie one outside the text.
 int characterAtLayoutPoint(PangoLayout *layout, std::string const &text, Point const &point);
 
 int startOfLineOffset(PangoLayout *layout, std::string const &text, int offset);
@@ -48,9 +62,10 @@ int lineBelowOffset(PangoLayout *layout, std::string const &text, int offset);
 int wordEndOffset(std::string const &text, int offset);
 int wordStartOffset(std::string const &text, int offset);
 
-// A caret moved by d characters, or a selection collapsed to its smaller
-// end (d below 0) or larger end (d above 0) without moving further.
-Range caretMovedBy(Range const &selection, int d);
+// A caret moved by d characters and on to the next stop, or a selection
+// collapsed to its smaller end (d below 0) or larger end (d above 0)
+// without moving further.
+Range caretMovedBy(Range const &selection, int d, std::vector<bool> const &stops);
 
 // The box grown to a text of width by height pixels: its proportions kept,
 // centred on the origin, never shrunk. A side that is not a finite number

@@ -1,9 +1,10 @@
-// The session keeps a layout of the font map of the thread that built it;
-// see TextEditingSession.h for what that means for moving a session between
-// threads.
+// The session keeps its layout in a KeptLayout, with what it was built
+// from: a session handed to another thread builds it again there from the
+// same inputs before its first use.
 #include <vantrel/editing/TextEditingSession.h>
 
 #include "editing/EditingLayout.h"
+#include "text/KeptLayout.h"
 #include "text/TextLayout.h"
 
 #include <vantrel/text/UTF8StringUtil.h>
@@ -33,16 +34,22 @@ bool ScopedDeferredTextEditingSessionObserver::isRightToLeftLanguage(std::string
 struct TextEditingSession::Impl {
     TextCallout *callout;
     Range selection;
-    PangoLayout *layout = nullptr;
+    // The layout, and what it was last built from.
+    mutable KeptLayout kept;
+    TextCalloutProperties builtProperties;
+    TextAttributeList builtAttributes;
+    bool builtFitted = true;
     TextEditingSessionObserver *observer;
     // What a session without a callout edits: an empty text in an empty box.
     TextCallout nothing{Rect()};
 
     Impl(TextCallout *callout_, TextEditingSessionObserver *observer_) : callout(callout_), observer(observer_) {}
 
-    ~Impl() {
-        if (layout)
-            g_object_unref(layout);
+    // The layout, built again on the calling thread if another built it.
+    PangoLayout *layout() const {
+        if (!kept.isHome())
+            kept.reset(buildTextLayout(builtProperties, builtAttributes, builtFitted, 0, true));
+        return kept.get();
     }
 
     TextCallout &edited() { return callout ? *callout : nothing; }
@@ -61,9 +68,11 @@ struct TextEditingSession::Impl {
     }
 
     void rebuild(bool fitToBox) {
-        if (layout)
-            g_object_unref(layout);
-        layout = buildTextLayout(properties(), edited().textAttributeList(), fitToBox, 0, true);
+        builtProperties = properties();
+        builtAttributes = edited().textAttributeList();
+        builtFitted = fitToBox;
+        kept.reset(buildTextLayout(builtProperties, builtAttributes, fitToBox, 0, true));
+        PangoLayout *const layout = kept.get();
         if (fitToBox)
             return;
         // The box grows to the text instead; the layout stays as built.
@@ -82,6 +91,7 @@ struct TextEditingSession::Impl {
 
     int hitTest(Point const &point) const {
         Rect const tracking = edited().trackingRect();
+        PangoLayout *const layout = this->layout();
         return characterAtLayoutPoint(layout, text(), layoutPointForPoint(properties(), tracking, layout, point));
     }
 
@@ -90,14 +100,23 @@ struct TextEditingSession::Impl {
 
     // A line helper of the layout (lineAboveOffset, endOfLineOffset, ...) at offset.
     int onLine(int (*helper)(PangoLayout *, std::string const &, int), int offset) const {
-        return helper(layout, text(), offset);
+        return helper(layout(), text(), offset);
     }
+    // Where the caret may stand (cursorStops).
+    std::vector<bool> stops() const { return cursorStops(layout(), text()); }
+    // A word's end, or the next stop beyond it: a word may end in a cluster
+    // that begins with a blank.
     int wordLeft(int offset) const {
-        return reversed() ? wordEndOffset(text(), offset) : wordStartOffset(text(), offset);
+        int const t = reversed() ? wordEndOffset(text(), offset) : wordStartOffset(text(), offset);
+        return nearestStop(stops(), t, reversed() ? 1 : -1);
     }
     int wordRight(int offset) const {
-        return reversed() ? wordStartOffset(text(), offset) : wordEndOffset(text(), offset);
+        int const t = reversed() ? wordStartOffset(text(), offset) : wordEndOffset(text(), offset);
+        return nearestStop(stops(), t, reversed() ? -1 : 1);
     }
+    // The caret, or the selection's end, moved by one cluster.
+    Range caretStep(int d) const { return caretMovedBy(selection, d, stops()); }
+    int endStep(int d) const { return steppedToStop(stops(), e(), d); }
 
     int s() const { return selection.start(); }
     int e() const { return selection.end(); }
@@ -153,17 +172,13 @@ void TextEditingSession::updateTextAndAttributes(std::string const &text, TextAt
     impl->rebuildAndTell(fitToBox);
 }
 
-void TextEditingSession::moveSelectionLeft() {
-    impl->applySelection(caretMovedBy(impl->selection, impl->reversed() ? 1 : -1));
-}
-void TextEditingSession::moveSelectionRight() {
-    impl->applySelection(caretMovedBy(impl->selection, impl->reversed() ? -1 : 1));
-}
+void TextEditingSession::moveSelectionLeft() { impl->applySelection(impl->caretStep(impl->reversed() ? 1 : -1)); }
+void TextEditingSession::moveSelectionRight() { impl->applySelection(impl->caretStep(impl->reversed() ? -1 : 1)); }
 void TextEditingSession::moveSelectionLeftAndModifySelection() {
-    impl->applySelection(Range(impl->s(), impl->e() - 1));
+    impl->applySelection(Range(impl->s(), impl->endStep(-1)));
 }
 void TextEditingSession::moveSelectionRightAndModifySelection() {
-    impl->applySelection(Range(impl->s(), impl->e() + 1));
+    impl->applySelection(Range(impl->s(), impl->endStep(1)));
 }
 void TextEditingSession::moveSelectionUp() { impl->caretTo(impl->onLine(lineAboveOffset, impl->s())); }
 void TextEditingSession::moveSelectionUpAndModifySelection() {

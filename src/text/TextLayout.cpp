@@ -1,6 +1,7 @@
 #include "text/TextLayout.h"
 
 #include "text/Fonts.h"
+#include "text/KeptLayout.h"
 
 #include <vantrel/drawing/CrossPlatformDrawingContext.h>
 #include <vantrel/text/UTF8StringUtil.h>
@@ -152,6 +153,7 @@ TextAttributeList prepareAttributesForLayout(TextAttributeList const &attributes
 PangoLayout *buildTextLayout(TextCalloutProperties const &properties, TextAttributeList const &attributes,
                              bool fitToBox, double margin, bool unlimitedHeight) {
     Rect const box = properties.textRect.Expanded(-margin);
+    releaseLayoutsSentHome();
     PangoContext *context;
     {
         // The font search and the font maps are shared; the rest is the thread's own.

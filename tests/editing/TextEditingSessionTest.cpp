@@ -5,6 +5,7 @@
 
 #include <vantrel/Vantrel.h>
 
+#include <algorithm>
 #include <cmath>
 #include <functional>
 #include <limits>
@@ -426,3 +427,64 @@ TEST_F(EditingTest, HostileInputGivesOffsetsOfTheText) {
 }
 
 } // namespace
+
+TEST_F(EditingTest, TheCaretStopsOnlyBetweenClustersOfCombiningCharacters) {
+    // Each text with the caret's places, in characters: moving right from the
+    // start visits them in turn, moving left from the end visits them back,
+    // and every click lands on one of them.
+    struct Case {
+        char const *name;
+        std::string text;
+        std::vector<int> stops;
+    } const cases[] = {
+        {"Latin, every character its own", "Wave", {0, 1, 2, 3, 4}},
+        {"Devanagari with a virama and a vowel sign",
+         "\xE0\xA4\xA8\xE0\xA4\xAE\xE0\xA4\xB8\xE0\xA5\x8D\xE0\xA4\xA4\xE0\xA5\x87", // नमस्ते
+         {0, 1, 2, 4, 6}},
+        {"family emoji joined by zero-width joiners",
+         "a\xF0\x9F\x91\xA8\xE2\x80\x8D\xF0\x9F\x91\xA9\xE2\x80\x8D\xF0\x9F\x91\xA7"
+         "b",
+         {0, 1, 6, 7}},
+        {"flag", "\xF0\x9F\x87\xAB\xF0\x9F\x87\xB7", {0, 2}},
+        {"Thai letter with a tone mark", "\xE0\xB8\x94\xE0\xB9\x89x", {0, 2, 3}}, // ด้x
+    };
+    for (Case const &k : cases) {
+        SCOPED_TRACE(k.name);
+        TextCallout c = callout(k.text, Rect(0, 0, 400, 100), 30);
+        TextEditingSession session(&c, nullptr);
+        session.setSelection(Range(0, 0));
+        std::vector<int> rightward{0}, leftward;
+        for (size_t i = 1; i < k.stops.size(); ++i) {
+            session.moveSelectionRight();
+            rightward.push_back(session.selection().end());
+        }
+        EXPECT_EQ(rightward, k.stops);
+        for (size_t i = 1; i < k.stops.size(); ++i) {
+            leftward.insert(leftward.begin(), session.selection().end());
+            session.moveSelectionLeft();
+        }
+        leftward.insert(leftward.begin(), session.selection().end());
+        EXPECT_EQ(leftward, k.stops);
+        // The modifying forms move the selection's end the same way.
+        session.setSelection(Range(0, 0));
+        session.moveSelectionRightAndModifySelection();
+        EXPECT_EQ(session.selection(), Range(0, k.stops[1]));
+        session.moveSelectionToEnd();
+        session.moveSelectionLeftAndModifySelection();
+        EXPECT_EQ(session.selection().end(), k.stops[k.stops.size() - 2]);
+        // Clicks across the whole line.
+        for (double x = -5; x < 400; x += 1.5) {
+            int const t = session.selectionRangeForPoint(Point(x, 15)).start();
+            EXPECT_TRUE(std::find(k.stops.begin(), k.stops.end(), t) != k.stops.end()) << "x " << x << " gave " << t;
+        }
+    }
+    // Word moves end on a stop too: a word that begins with a combining
+    // accent on the blank before it begins in front of that blank.
+    std::string const accented = "ab \xCC\x81"
+                                 "cd"; // a combining acute on the blank
+    TextCallout c = callout(accented);
+    TextEditingSession session(&c, nullptr);
+    session.moveSelectionToEnd();
+    session.moveSelectionWordLeft();
+    EXPECT_EQ(session.selection(), Range(2, 2));
+}

@@ -19,6 +19,7 @@ typedef struct _PangoLayout PangoLayout;
 namespace Vantrel {
 
 class DrawingContext;
+class KeptLayout;
 
 // What a caption shows and how. maxLines and fontSize have no natural
 // default; a host sets both.
@@ -64,11 +65,10 @@ public:
 // too long is cut by lines, and the wrap indexes tell the host where the
 // rest begins. It owns its layout, so it is neither copied nor moved; share
 // it by pointer. Like every object of the library it belongs to one thread
-// at a time; more than that, since the layout it keeps lives in the font map
-// of the thread that built it (each thread lays text out with a map of its
-// own), a caption stays on the thread that made it. Handing it to another
-// thread is safe only once that thread has ended; while it may still lay
-// text out, the two threads would use one font map at once.
+// at a time and may be handed to another between calls: each thread lays
+// text out with a font map of its own, so a caption used on another thread
+// than the one that last laid it out lays its text out again there, with the
+// same results, and the old layout is released by the thread that made it.
 //
 // Input outside the contract: a margin larger than half the box leaves no
 // room and no line fits (unless the box is of unlimited height). A margin
@@ -121,11 +121,12 @@ public:
 
 private:
     int lineCountOfLayout() const;
+    PangoLayout *layout() const;
 
     TextAttributeList mAttributes;
     CaptionProperties mProperties;
     TextCalloutProperties mTextProperties;
-    PangoLayout *mLayout = nullptr;
+    std::unique_ptr<KeptLayout> mLayout;
     Rect mTextBox;
     double mMargin;
     int mLineCount = 0;

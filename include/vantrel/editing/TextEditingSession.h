@@ -70,12 +70,11 @@ private:
 // A session and its callout belong to one thread at a time. The session
 // owns its layout, so it can be neither copied nor moved; keep it by pointer.
 //
-// Threads: each thread lays text out with a font map of its own, and the
-// layout a session keeps lives in the font map of the thread that built it.
-// So a session stays on the thread that made it. Handing it to another
-// thread between calls is safe only once that thread has ended (the layout
-// keeps its font map alive); while it may still lay text out, the two
-// threads would use one font map at once, which pango does not allow.
+// Threads: a session may be handed to another thread between calls. Each
+// thread lays text out with a font map of its own, so a session used on
+// another thread than the one that last laid its text out lays it out again
+// there, from the same text, attributes and properties, with the same
+// results; the old layout is released by the thread that made it.
 class VANTREL_EXPORT TextEditingSession {
 public:
     // The selection starts as (-1, -1); the layout is fitted to the box.
@@ -126,6 +125,15 @@ public:
     // line keep the far end instead. Up and down take the caret's x on the
     // line above or below, with no remembered column. Words are separated by
     // blanks, line feeds and carriage returns only.
+    //
+    // The caret moves by grapheme cluster, not by code point: moves, the
+    // ends of word moves and hit tests land only on pango's cursor positions
+    // (PangoLogAttr.is_cursor_position), so that the caret never stands
+    // between a Thai or Devanagari letter and its vowel sign, nor inside an
+    // emoji sequence joined by zero-width joiners or a flag. Where every
+    // character is a cluster of its own, as in Latin, Greek, Cyrillic,
+    // Hebrew or CJK text, that is one character at a time. Offsets stay
+    // character offsets; a selection set by the host is kept as it is given.
     void moveSelectionLeft();
     void moveSelectionRight();
     void moveSelectionLeftAndModifySelection();

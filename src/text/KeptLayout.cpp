@@ -1,0 +1,78 @@
+#include "text/KeptLayout.h"
+
+#include <mutex>
+#include <utility>
+#include <vector>
+
+namespace Vantrel {
+
+// One thread's record: the layouts sent to it for release, and whether it has ended.
+class LayoutHome {
+public:
+    std::mutex mutex;
+    bool ended = false;
+    std::vector<PangoLayout *> sent;
+};
+
+namespace {
+
+void release(std::vector<PangoLayout *> const &layouts) {
+    for (PangoLayout *layout : layouts)
+        g_object_unref(layout);
+}
+
+// The calling thread's record; on the thread's end it releases what was sent
+// to it and marks itself ended, so that later layouts are released at once.
+struct ThreadHome {
+    std::shared_ptr<LayoutHome> home = std::make_shared<LayoutHome>();
+    ~ThreadHome() {
+        std::lock_guard<std::mutex> guard(home->mutex);
+        home->ended = true;
+        release(home->sent);
+        home->sent.clear();
+    }
+};
+thread_local ThreadHome tHome;
+
+void sendHome(PangoLayout *layout, std::shared_ptr<LayoutHome> const &home) {
+    if (!layout)
+        return;
+    if (!home || home == tHome.home) {
+        g_object_unref(layout);
+        return;
+    }
+    std::lock_guard<std::mutex> guard(home->mutex);
+    if (home->ended) {
+        // Released here, under the record's lock: others may release
+        // layouts of the same ended thread's map at the same time.
+        g_object_unref(layout);
+        return;
+    }
+    home->sent.push_back(layout);
+}
+
+} // namespace
+
+KeptLayout::~KeptLayout() { sendHome(mLayout, mHome); }
+
+void KeptLayout::reset(PangoLayout *layout) {
+    sendHome(mLayout, mHome);
+    mLayout = layout;
+    mHome = tHome.home;
+}
+
+bool KeptLayout::isHome() const { return !mLayout || mHome == tHome.home; }
+
+void releaseLayoutsSentHome() {
+    LayoutHome &home = *tHome.home;
+    std::vector<PangoLayout *> sent;
+    {
+        std::lock_guard<std::mutex> guard(home.mutex);
+        if (home.sent.empty())
+            return;
+        sent.swap(home.sent);
+    }
+    release(sent);
+}
+
+} // namespace Vantrel
