@@ -5,6 +5,8 @@
 namespace Vantrel {
 
 Polygon buildArrowPolygon(ArrowSpec const &spec) {
+    if (isPointLine(spec.start, spec.end))
+        return Polygon();
     double const L = (spec.end - spec.start).Length();
     int const heads = (spec.headAtStart ? 1 : 0) + (spec.headAtEnd ? 1 : 0);
     double s = spec.shaftHalfWidth, w = spec.headHalfWidth, h = spec.headLength, radius = spec.cornerRadius;

@@ -4,6 +4,8 @@
 
 #include <vantrel/values/Polygon.h>
 
+#include <cmath>
+
 namespace Vantrel {
 
 struct ArrowSpec {
@@ -17,8 +19,16 @@ struct ArrowSpec {
     double cornerRadius = 0;
 };
 
+// Whether a line from start to end has no direction: its ends are finite
+// and its length is 0 (or too small to divide by). Such a line draws
+// nothing, and its bounds are the empty rect at the point.
+inline bool isPointLine(Point const &start, Point const &end) {
+    return std::isfinite(start.x) && std::isfinite(start.y) && std::isfinite(end.x) && std::isfinite(end.y) &&
+           !((end - start).Length() > 0);
+}
+
 // The outline, starting at the first end. An arrow shorter than 1.5 head
-// lengths per head shrinks as a whole.
+// lengths per head shrinks as a whole; a line of length 0 has none.
 Polygon buildArrowPolygon(ArrowSpec const &spec);
 
 struct ArrowParts {

@@ -28,6 +28,8 @@ Color withAlpha(Color c, float factor) {
 
 Rect FixedLine::trackingRect() const { return trackingRectAround(end); }
 
+Rect FixedLine::boundingRect() const { return isPointLine(start, end) ? Rect(end, end) : BaseCallout::boundingRect(); }
+
 BoldLine::BoldLine(Color const &color, Point const &start, Point const &end)
     : FixedLine(color, start, end), outline(arrow(start, end, false, 5, 0, 0, 0)) {}
 

@@ -1,5 +1,6 @@
 #include <vantrel/callouts/lines/LineWithCaps.h>
 
+#include "callouts/lines/ArrowGeometry.h"
 #include "callouts/lines/EndCaps.h"
 #include "callouts/lines/Shafts.h"
 
@@ -11,10 +12,15 @@ LineWithCaps::LineWithCaps(Color const &color_) : color(color_) {}
 
 Rect LineWithCaps::trackingRect() const { return trackingRectAround(endCap.position); }
 
+Rect LineWithCaps::boundingRect() const {
+    return isPointLine(startCap.position, endCap.position) ? Rect(endCap.position, endCap.position)
+                                                           : BaseCallout::boundingRect();
+}
+
 void LineWithCaps::drawIntoContext(DrawingContext *context, DrawOptions, Rect, int, DrawOutputMetaData *) const {
     boost::shared_ptr<EndCap> first = makeEndCap(startCap.kind, startCap.size);
     boost::shared_ptr<EndCap> second = makeEndCap(endCap.kind, endCap.size);
-    if (!first || !second)
+    if (!first || !second || isPointLine(startCap.position, endCap.position))
         return;
     double const L = (endCap.position - startCap.position).Length();
     double const a = first->shaftInset(startCap.joined);

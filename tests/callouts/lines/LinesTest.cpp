@@ -387,3 +387,34 @@ TEST(LineWithCaps, OnlyPiecesThatTouchACapAreUnited) {
                 EXPECT_LE(hostile->pathAsPolygons(Rect()).polygons.size(), size_t(kMaxShaftPieces) + 2);
             }
 }
+
+// A line whose start is its end, as when a user presses before dragging:
+// nothing drawn, no outline, bounds empty at the point, in every theme.
+TEST(Lines, ALineOfLengthZeroHasNoOutlineAndBoundsAtItsPoint) {
+    Point const p(37.5, -12);
+    std::vector<std::pair<std::string, std::unique_ptr<BaseCallout>>> lines;
+    for (int theme = 0; theme <= 4; ++theme) {
+        std::string const t = "theme " + std::to_string(theme);
+        lines.emplace_back(t + " line", Presets::createLine(Presets::Theme(theme), kInk, p, p));
+        lines.emplace_back(t + " arrow", Presets::createArrow(Presets::Theme(theme), kInk, 6, "", p, "", p, ""));
+        for (int cap = 0; cap <= 7; ++cap)
+            lines.emplace_back(t + " caps " + std::to_string(cap),
+                               Presets::createLine(Presets::Theme(theme), kInk, 6, p, p,
+                                                   Presets::LineShaftType(cap % 3), Presets::LineEndCapType(cap),
+                                                   Presets::LineEndCapType(cap)));
+    }
+    for (auto const &[name, line] : lines) {
+        if (!line)
+            continue; // a theme without this kind
+        SCOPED_TRACE(name);
+        for (auto const &polygon : line->pathAsPolygons(Rect()).polygons)
+            EXPECT_TRUE(polygon->points.empty());
+        EXPECT_EQ(line->boundingRect(), Rect(p, p));
+        Bitmap bitmap(100, 100);
+        bitmap.clear();
+        CrossPlatformDrawingContext context(&bitmap);
+        context.Translate(Point(50, 50) - p);
+        line->drawIntoContext(&context, BaseCallout::DrawOptionAll, Rect(), -1, nullptr);
+        EXPECT_EQ(VantrelTest::inkBounds(bitmap), Rect());
+    }
+}

@@ -40,6 +40,9 @@ public:
                          DrawOutputMetaData *metadata) const override;
     // trackingRectAround the second point.
     Rect trackingRect() const override;
+    // Caps at one point have no direction: a line whose ends are equal draws
+    // nothing, has no outline, and its bounds are the empty rect at the point.
+    Rect boundingRect() const override;
 
     Color color;
     LineEnd startCap;

@@ -14,6 +14,10 @@ class VANTREL_EXPORT FixedLine : public BaseCallout {
 public:
     // trackingRectAround the second point.
     Rect trackingRect() const override;
+    // A line whose start equals its end (a press before the drag) has no
+    // direction to draw along: it draws nothing, has no outline, and its
+    // bounds are the empty rect at that point.
+    Rect boundingRect() const override;
 
 protected:
     FixedLine(Color const &color_, Point const &start_, Point const &end_) : color(color_), start(start_), end(end_) {}
