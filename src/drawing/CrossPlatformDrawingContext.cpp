@@ -2,9 +2,35 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <vector>
 
 namespace Vantrel {
+
+namespace {
+double const kInfinity = std::numeric_limits<double>::infinity();
+// Within this many device units of the origin cairo's coordinates are
+// exact enough; beyond, a path is far (half of where they wrap).
+double const kTrustedDeviceExtent = 4e6;
+cairo_user_data_key_t const kPathStateKey = {0};
+} // namespace
+
+void PathReach::clear() {
+    left = top = kInfinity;
+    right = bottom = -kInfinity;
+}
+
+void PathReach::add(double x, double y) {
+    left = std::fmin(left, x);
+    top = std::fmin(top, y);
+    right = std::fmax(right, x);
+    bottom = std::fmax(bottom, y);
+}
+
+bool PathReach::far() const {
+    return !empty() && !(left >= -kTrustedDeviceExtent && right <= kTrustedDeviceExtent &&
+                         top >= -kTrustedDeviceExtent && bottom <= kTrustedDeviceExtent);
+}
 
 namespace CairoUtil {
 
@@ -65,6 +91,67 @@ void applyStrokeStyle(cairo_t *cr, std::string const &style, double w) {
     cairo_set_dash(cr, pattern, count, 0.0);
 }
 
+PathState *pathState(cairo_t *cr) { return static_cast<PathState *>(cairo_get_user_data(cr, &kPathStateKey)); }
+
+namespace {
+void noteUserPoint(cairo_t *cr, double x, double y) {
+    if (PathState *state = pathState(cr)) {
+        cairo_user_to_device(cr, &x, &y);
+        state->reach.add(x, y);
+    }
+}
+} // namespace
+
+void moveTo(cairo_t *cr, double x, double y) {
+    noteUserPoint(cr, x, y);
+    cairo_move_to(cr, x, y);
+}
+
+void lineTo(cairo_t *cr, double x, double y) {
+    noteUserPoint(cr, x, y);
+    cairo_line_to(cr, x, y);
+}
+
+void newPath(cairo_t *cr) {
+    if (PathState *state = pathState(cr))
+        state->reach.clear();
+    cairo_new_path(cr);
+}
+
+void noteUserBox(cairo_t *cr, double x0, double y0, double x1, double y1) {
+    noteUserPoint(cr, x0, y0);
+    noteUserPoint(cr, x1, y0);
+    noteUserPoint(cr, x1, y1);
+    noteUserPoint(cr, x0, y1);
+}
+
+double strokeReach(cairo_t *cr) {
+    double const half = cairo_get_line_width(cr) * 0.5;
+    double x = half, y = 0; // the width is in user space
+    cairo_user_to_device_distance(cr, &x, &y);
+    double x2 = 0, y2 = half;
+    cairo_user_to_device_distance(cr, &x2, &y2);
+    return std::fmax(std::hypot(x, y), std::hypot(x2, y2)) * std::fmax(cairo_get_miter_limit(cr), std::sqrt(2.0));
+}
+
+bool beginPaint(cairo_t *cr, double reach) {
+    PathState *state = pathState(cr);
+    if (!state)
+        return true;
+    bool const far = state->reach.far();
+    if (far && state->measuring) {
+        PathReach const &r = state->reach;
+        double const grow = std::isfinite(reach) ? reach : 0.0;
+        state->farInk.add(r.left - grow, r.top - grow);
+        state->farInk.add(r.right + grow, r.bottom + grow);
+        state->reach.clear();
+        cairo_new_path(cr);
+        return false;
+    }
+    state->reach.clear();
+    return true;
+}
+
 bool keepsInvertible(cairo_t *cr, double det) {
     cairo_matrix_t ctm;
     cairo_get_matrix(cr, &ctm);
@@ -97,7 +184,7 @@ cairo_surface_t *surfaceFor(Bitmap *bitmap) {
 bool setPolygonsAsPath(cairo_t *cr, Polygons const &polygons) {
     if (polygons.polygons.empty())
         return false;
-    cairo_new_path(cr);
+    newPath(cr);
     for (auto const &shared : polygons.polygons) {
         if (!shared || shared->points.size() < 3)
             continue;
@@ -107,7 +194,7 @@ bool setPolygonsAsPath(cairo_t *cr, Polygons const &polygons) {
         size_t drawn = 0;
         for (Point const &q : p.points)
             if (finite(q)) {
-                (drawn++ ? cairo_line_to : cairo_move_to)(cr, q.x, q.y);
+                (drawn++ ? lineTo : moveTo)(cr, q.x, q.y);
             }
         if (drawn)
             cairo_close_path(cr);
@@ -168,10 +255,25 @@ double flattenedLength(cairo_t *cr) {
     return length;
 }
 
-// cairo_stroke, except that a dash which would need more than
-// kMaxDashesPerStroke dashes along the path is drawn continuous for this one
-// stroke, and stays in force afterwards.
+// A measuring context needs no dash: the ink of a dashed stroke lies within
+// that of the same stroke continuous. It measures dashes all the same,
+// exactly, up to this many along one stroke; a longer rhythm is measured
+// continuous, whose bounds hold the dashes' ink.
+double const kMaxMeasuredDashes = 1e4;
+
+// cairo_stroke, bounded in time. A dash is left out for this one stroke (and
+// stays in force afterwards) when it would need more than
+// kMaxDashesPerStroke dashes along the path, or kMaxMeasuredDashes in a
+// measuring context, and when the path reaches where cairo's coordinates
+// wrap: cairo's dash then walks a path that is not the one given, at a cost
+// that grows with the distance. A far path is not stroked at all in a
+// measuring context (beginPaint).
 void strokeBounded(cairo_t *cr) {
+    PathState const *state = pathState(cr);
+    bool const far = state && state->reach.far();
+    bool const measuring = state && state->measuring;
+    if (!beginPaint(cr, strokeReach(cr)))
+        return;
     int count = cairo_get_dash_count(cr);
     if (count > 0) {
         std::vector<double> dashes(count);
@@ -182,7 +284,8 @@ void strokeBounded(cairo_t *cr) {
             period += d;
         if (count % 2)
             period *= 2; // an odd count alternates on and off over two rounds
-        if (!(flattenedLength(cr) / period <= kMaxDashesPerStroke)) {
+        double const budget = measuring ? kMaxMeasuredDashes : kMaxDashesPerStroke;
+        if (far || !(flattenedLength(cr) / period <= budget)) {
             cairo_set_dash(cr, nullptr, 0, 0.0);
             cairo_stroke(cr);
             cairo_set_dash(cr, dashes.data(), count, offset);
@@ -194,9 +297,9 @@ void strokeBounded(cairo_t *cr) {
 
 void lineOrMove(cairo_t *cr, Point const &p, bool first) {
     if (first && !cairo_has_current_point(cr))
-        cairo_move_to(cr, p.x, p.y);
+        moveTo(cr, p.x, p.y);
     else
-        cairo_line_to(cr, p.x, p.y);
+        lineTo(cr, p.x, p.y);
 }
 
 // The arc of the unit circle from start over sweep (>= 0), mapped by the
@@ -233,6 +336,9 @@ void addArc(cairo_t *cr, Point const &center, Point const &xAxis, Point const &y
         traceArc(cr, center, xAxis, yAxis, startAngle, sweep, segments);
         return;
     }
+    // The box of the whole ellipse holds the arc.
+    double const rx = std::fabs(xAxis.x) + std::fabs(yAxis.x), ry = std::fabs(xAxis.y) + std::fabs(yAxis.y);
+    noteUserBox(cr, center.x - rx, center.y - ry, center.x + rx, center.y + ry);
     cairo_save(cr);
     cairo_matrix_t frame;
     cairo_matrix_init(&frame, xAxis.x, xAxis.y, yAxis.x, yAxis.y, center.x, center.y);
@@ -256,6 +362,8 @@ CrossPlatformDrawingContext::CrossPlatformDrawingContext(Bitmap *bitmap) : impl(
     impl->bitmap = bitmap;
     impl->surface = surfaceFor(bitmap);
     impl->cr = cairo_create(impl->surface);
+    impl->paths.measuring = !bitmap;
+    cairo_set_user_data(impl->cr, &kPathStateKey, &impl->paths, nullptr);
     cairo_set_miter_limit(impl->cr, 1.0 / std::sin(0.008726646259971648));
 }
 
@@ -269,9 +377,11 @@ Bitmap *CrossPlatformDrawingContext::bitmap() const { return impl->bitmap; }
 
 cairo_t *CrossPlatformDrawingContext::Get() { return impl->cr; }
 
-void CrossPlatformDrawingContext::StartPath() { cairo_new_path(impl->cr); }
+void CrossPlatformDrawingContext::StartPath() { newPath(impl->cr); }
 
 void CrossPlatformDrawingContext::FillCurrentPath(GradientPattern const &pattern) {
+    if (!beginPaint(impl->cr, 0))
+        return;
     cairo_pattern_t *p = createPattern(pattern);
     cairo_set_source(impl->cr, p);
     cairo_fill(impl->cr);
@@ -279,6 +389,8 @@ void CrossPlatformDrawingContext::FillCurrentPath(GradientPattern const &pattern
 }
 
 void CrossPlatformDrawingContext::FillCurrentPath(Color const &color) {
+    if (!beginPaint(impl->cr, 0))
+        return;
     setSourceColor(impl->cr, color);
     cairo_fill(impl->cr);
 }
@@ -309,12 +421,12 @@ void CrossPlatformDrawingContext::AddArcToCurrentPath(Point const &center, Point
 // A point that is not finite adds nothing.
 void CrossPlatformDrawingContext::AddLineToCurrentPath(Point const &p) {
     if (finite(p))
-        cairo_line_to(impl->cr, p.x, p.y);
+        lineTo(impl->cr, p.x, p.y);
 }
 
 void CrossPlatformDrawingContext::MoveToPointInCurrentPath(Point const &p) {
     if (finite(p))
-        cairo_move_to(impl->cr, p.x, p.y);
+        moveTo(impl->cr, p.x, p.y);
 }
 
 void CrossPlatformDrawingContext::AddCurveToCurrentPath(Point const &c1, Point const &c2, Point const &end) {
@@ -324,6 +436,11 @@ void CrossPlatformDrawingContext::AddCurveToCurrentPath(Point const &c1, Point c
         cairo_get_current_point(cr, &start.x, &start.y);
     if (withinSafeExtent(cr, start) && withinSafeExtent(cr, c1) && withinSafeExtent(cr, c2) &&
         withinSafeExtent(cr, end)) {
+        // The curve lies within the box of its four points.
+        noteUserBox(cr, std::fmin(std::fmin(start.x, c1.x), std::fmin(c2.x, end.x)),
+                    std::fmin(std::fmin(start.y, c1.y), std::fmin(c2.y, end.y)),
+                    std::fmax(std::fmax(start.x, c1.x), std::fmax(c2.x, end.x)),
+                    std::fmax(std::fmax(start.y, c1.y), std::fmax(c2.y, end.y)));
         cairo_curve_to(cr, c1.x, c1.y, c2.x, c2.y, end.x, end.y);
         return;
     }
@@ -366,7 +483,7 @@ void CrossPlatformDrawingContext::Scale(Point const &factors) {
 }
 
 void CrossPlatformDrawingContext::Fill(GradientPattern const &pattern, Polygons const &polygons) {
-    if (singleShortPolygon(polygons) || !setPolygonsAsPath(impl->cr, polygons))
+    if (singleShortPolygon(polygons) || !setPolygonsAsPath(impl->cr, polygons) || !beginPaint(impl->cr, 0))
         return;
     cairo_pattern_t *p = createPattern(pattern);
     cairo_set_source(impl->cr, p);
@@ -379,7 +496,7 @@ void CrossPlatformDrawingContext::Fill(GradientPattern const &pattern, Polygon c
 }
 
 void CrossPlatformDrawingContext::Fill(Color const &color, Polygons const &polygons) {
-    if (singleShortPolygon(polygons) || !setPolygonsAsPath(impl->cr, polygons))
+    if (singleShortPolygon(polygons) || !setPolygonsAsPath(impl->cr, polygons) || !beginPaint(impl->cr, 0))
         return;
     setSourceColor(impl->cr, color);
     cairo_fill(impl->cr);
@@ -408,8 +525,9 @@ void CrossPlatformDrawingContext::Stroke(Color const &color, double lineWidth, s
 void CrossPlatformDrawingContext::DrawRectangle(Color const &color, Rect const &rect) {
     cairo_t *cr = impl->cr;
     cairo_set_line_width(cr, 1.0);
-    cairo_new_path(cr);
+    newPath(cr);
     setSourceColor(cr, color);
+    noteUserBox(cr, rect.Left(), rect.Top(), rect.Right(), rect.Bottom());
     cairo_rectangle(cr, rect.Left(), rect.Top(), rect.Width(), rect.Height());
     strokeBounded(cr);
 }
@@ -419,18 +537,20 @@ void CrossPlatformDrawingContext::FillEllipse(GradientPattern const &pattern, Re
     // The source is set before the ellipse's own scale, so the gradient stays in user space.
     cairo_pattern_t *p = createPattern(pattern);
     cairo_set_source(cr, p);
-    cairo_new_path(cr);
+    newPath(cr);
     addEllipse(cr, rect);
-    cairo_fill(cr);
+    if (beginPaint(cr, 0))
+        cairo_fill(cr);
     cairo_pattern_destroy(p);
 }
 
 void CrossPlatformDrawingContext::FillEllipse(Color const &color, Rect const &rect) {
     cairo_t *cr = impl->cr;
     setSourceColor(cr, color);
-    cairo_new_path(cr);
+    newPath(cr);
     addEllipse(cr, rect);
-    cairo_fill(cr);
+    if (beginPaint(cr, 0))
+        cairo_fill(cr);
 }
 
 void CrossPlatformDrawingContext::StrokeEllipse(Color const &color, double lineWidth, std::string const &style,
@@ -462,9 +582,9 @@ void CrossPlatformDrawingContext::DrawLine(Point const &from, Point const &to, C
     setSourceColor(cr, color);
     cairo_set_line_cap(cr, roundCap ? CAIRO_LINE_CAP_ROUND : CAIRO_LINE_CAP_BUTT);
     cairo_set_line_width(cr, safeWidth(width));
-    cairo_new_path(cr);
-    cairo_move_to(cr, from.x, from.y);
-    cairo_line_to(cr, to.x, to.y);
+    newPath(cr);
+    moveTo(cr, from.x, from.y);
+    lineTo(cr, to.x, to.y);
     strokeBounded(cr);
 }
 
@@ -484,6 +604,7 @@ void CrossPlatformDrawingContext::Restore() { cairo_restore(impl->cr); }
 void CrossPlatformDrawingContext::SetClip(Rect const &rect) {
     cairo_rectangle(impl->cr, rect.Left(), rect.Top(), rect.Width(), rect.Height());
     cairo_clip(impl->cr);
+    impl->paths.reach.clear(); // the clip took the path
 }
 
 DrawingContext *CrossPlatformDrawingContext::CreateBlankClone() {
@@ -566,7 +687,14 @@ Rect CrossPlatformDrawingContext::InkExtents() {
         return Rect();
     double x = 0, y = 0, w = 0, h = 0;
     cairo_recording_surface_ink_extents(impl->surface, &x, &y, &w, &h);
-    return Rect(x, y, x + w, y + h);
+    PathReach const &far = impl->paths.farInk;
+    if (far.empty())
+        return Rect(x, y, x + w, y + h);
+    // Paths too far for cairo count by their boxes, which hold their ink.
+    if (w > 0 || h > 0)
+        return Rect(std::fmin(x, far.left), std::fmin(y, far.top), std::fmax(x + w, far.right),
+                    std::fmax(y + h, far.bottom));
+    return Rect(far.left, far.top, far.right, far.bottom);
 }
 
 CrossPlatformDrawingContextWithBuiltInBitmap::CrossPlatformDrawingContextWithBuiltInBitmap(int width, int height)

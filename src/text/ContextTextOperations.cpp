@@ -29,6 +29,8 @@ PangoLayout *prepareText(cairo_t *cr, TextCalloutProperties const &properties, T
     cairo_rectangle(cr, roundedCoordinate(r.Left()), roundedCoordinate(r.Top()), wholePixelWidth(r),
                     wholePixelHeight(r));
     cairo_clip(cr);
+    if (PathState *paths = CairoUtil::pathState(cr))
+        paths->reach.clear(); // the clip took the path
     PangoLayout *layout = buildTextLayout(properties, attributes, properties.resizesText(), 0, true);
     if (layout) {
         cairo_matrix_t toDrawing;

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <memory>
 
 using namespace Vantrel;
 
@@ -105,4 +106,69 @@ TEST(BoundsFinder, MeasuresInkWithStrokes) {
     moved.Translate(Point(7, 3));
     moved.Fill(kInk, Polygon(Rect(0, 0, 10, 10)));
     EXPECT_EQ(moved.InkExtents(), Rect(7, 3, 17, 13));
+}
+
+// Beyond about 8.4 million device units cairo's fixed-point coordinates
+// wrap: its bounds came back inverted or wrapped there. Bounds of such
+// callouts hold their ink: the box of their outline, grown by the stroke.
+TEST(BoundsFinder, BoundsBeyondCairosRangeHoldTheInk) {
+    Vantrel::TextCalloutProperties text;
+    Vantrel::TextAttributeList none;
+    struct Case {
+        char const *name;
+        std::unique_ptr<Vantrel::BaseCallout> callout;
+        Vantrel::Rect box; // what the bounds must hold
+    };
+    Case cases[] = {
+        {"oval 10 million wide",
+         std::unique_ptr<Vantrel::BaseCallout>(Vantrel::Presets::createShapeOval(
+             Vantrel::Presets::ThemeBasic, Vantrel::Color(1, 0, 0), "solid", Vantrel::Point(0, 1),
+             Vantrel::Color(0, 0, 0), 2, "solid", Vantrel::Rect(0, 0, 1e7, 100))),
+         Vantrel::Rect(0, 0, 1e7, 100)},
+        {"rectangle 10 million to the left",
+         std::unique_ptr<Vantrel::BaseCallout>(Vantrel::Presets::createShapeRectangle(
+             Vantrel::Presets::ThemeBasic, Vantrel::Color(1, 0, 0), "solid", Vantrel::Point(0, 1),
+             Vantrel::Color(0, 0, 0), 2, "dash", Vantrel::Rect(-1e7, 0, 0, 100))),
+         Vantrel::Rect(-1e7, 0, 0, 100)},
+        {"bold thought bubble a million wide, dotted",
+         std::unique_ptr<Vantrel::BaseCallout>(Vantrel::Presets::createThoughtBubbleTwo(
+             Vantrel::Presets::ThemeBold, Vantrel::Color(1, 1, 1), "solid", Vantrel::Point(0, 1),
+             Vantrel::Color(0, 0, 0), 3, "dot", Vantrel::Rect(-5e5, -50, 5e5, 50), Vantrel::Point(6e5, 100), text,
+             none)),
+         Vantrel::Rect(-5e5, -50, 5e5, 50)},
+    };
+    for (Case const &c : cases) {
+        SCOPED_TRACE(c.name);
+        Vantrel::Rect const r = c.callout->boundingRect();
+        EXPECT_LE(r.Left(), c.box.Left());
+        EXPECT_LE(r.Top(), c.box.Top());
+        EXPECT_GE(r.Right(), c.box.Right());
+        EXPECT_GE(r.Bottom(), c.box.Bottom());
+        // Not much more than the design and the stroke reach beyond the box.
+        EXPECT_LT(r.Width(), c.box.Width() * 2 + 1000);
+    }
+}
+
+// Dashed and dotted outlines that reach 1e30: cairo's dash walked a path
+// that was not the one given, for tens of seconds a draw (more at smaller
+// scales). These draws must end well within the suite's time limit.
+TEST(CairoContext, DashedOutlinesFarFromTheOriginDrawInBoundedTime) {
+    Vantrel::TextCalloutProperties text;
+    Vantrel::TextAttributeList none;
+    for (char const *style : {"dot", "dash", "dashdotdot"}) {
+        SCOPED_TRACE(style);
+        std::unique_ptr<Vantrel::BaseCallout> bubble(Vantrel::Presets::createThoughtBubble(
+            Vantrel::Presets::ThemeAbstract, Vantrel::Color(1, 1, 1), "solid", Vantrel::Point(0, 1),
+            Vantrel::Color(0, 0, 0), 3, style, Vantrel::Rect(-1e30, -1e30, 100, 50), Vantrel::Point(200, 100), text,
+            none));
+        for (double scale : {1.0, 0.37, 0.01}) {
+            VantrelTest::Canvas canvas(64, 64);
+            canvas.context.Translate(Vantrel::Point(32, 32));
+            canvas.context.Scale(Vantrel::Point(scale, scale));
+            bubble->drawIntoContext(&canvas.context, Vantrel::BaseCallout::DrawOptionAll, Vantrel::Rect(), -1, nullptr);
+        }
+        Vantrel::Rect const r = bubble->boundingRect();
+        EXPECT_LE(r.Left(), -1e30);
+        EXPECT_GE(r.Right(), 100);
+    }
 }

@@ -28,7 +28,18 @@ namespace Vantrel {
 //   units) cannot be drawn faithfully: arcs and curves reaching there are
 //   traced as lines, and a dash that would need more than a million dashes
 //   along one stroke is drawn continuous, so that drawing stays bounded in
-//   time rather than exact.
+//   time rather than exact;
+// - a path that reaches farther than 4 million device units from the
+//   origin is a far path: its pixels are cairo's (whose coordinates wrap
+//   there) and it is stroked without its dash, whose cost would grow with the
+//   distance. A recording context does not record a far path: it counts the
+//   path's box, grown by the stroke's reach (half the width times the miter
+//   limit), as ink, so that InkExtents and so every callout's boundingRect
+//   hold the ink, generously, wherever cairo cannot measure it;
+// - a recording context measures a dash exactly up to 10,000 dashes along one
+//   stroke; beyond, the stroke counts as continuous, whose ink holds the
+//   dashes' (the bounds of a dotted outline a million pixels round cost no
+//   more than those of a solid one).
 class VANTREL_EXPORT CrossPlatformDrawingContext : public DrawingContext {
 public:
     explicit CrossPlatformDrawingContext(Bitmap *bitmap);
