@@ -6,6 +6,9 @@
 #include "Sketch.h"
 #include "Sprites.h"
 
+#include <vantrel/text/PangoFonts.h>
+
+#include <algorithm>
 #include <cstring>
 #include <iostream>
 #include <string>
@@ -35,6 +38,11 @@ Commands:
 
 Options:
   -h, --help            show this text
+  --fallback-fonts      before drawing text, search the font folders for the
+                        library's fallback families (Windows and macOS fonts,
+                        "Arial", "Yu Gothic" and others) and warn about each
+                        one missing; off by default, since fontconfig already
+                        falls back to the fonts installed here
 )";
 
 int usageError(std::string const &message) {
@@ -70,6 +78,14 @@ int runGallery(std::vector<std::string> const &args) {
 
 int main(int argc, char **argv) {
     std::vector<std::string> args(argv + 1, argv + argc);
+    // The fallback families are Windows and macOS fonts; on Linux pango's
+    // fontconfig fallback already covers their scripts, and searching for them
+    // only greets every run with six warnings. Given anywhere, the option
+    // restores the library's own default.
+    auto fallback = std::find(args.begin(), args.end(), "--fallback-fonts");
+    Vantrel::PangoFonts::setLoadFallbackFonts(fallback != args.end());
+    if (fallback != args.end())
+        args.erase(fallback);
     if (args.empty())
         return usageError("missing command");
     std::string command = args.front();
