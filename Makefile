@@ -62,7 +62,7 @@ soak: build
 # for FUZZ_RUNS inputs from its seeds.
 FUZZ_SECONDS ?= 600
 FUZZ_RUNS ?= 500
-FUZZ_HARNESSES := svg custompath colour attributes utf8 textoffsets union
+FUZZ_HARNESSES := svg custompath colour attributes utf8 textoffsets union callouts
 FUZZ_FLAGS := -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG="-O2 -g" -DCMAKE_CXX_COMPILER=clang++-14 \
               -DVANTREL_SANITIZE=fuzzer-no-link,address,undefined -DVANTREL_BUILD_FUZZ=ON \
               -DVANTREL_BUILD_TESTS=OFF -DVANTREL_BUILD_TOOLS=OFF

@@ -17,6 +17,7 @@ extern "C" int replay_attributes(uint8_t const *, size_t);
 extern "C" int replay_utf8(uint8_t const *, size_t);
 extern "C" int replay_textoffsets(uint8_t const *, size_t);
 extern "C" int replay_union(uint8_t const *, size_t);
+extern "C" int replay_callouts(uint8_t const *, size_t);
 
 namespace {
 
@@ -51,7 +52,7 @@ INSTANTIATE_TEST_SUITE_P(Harnesses, FuzzReplay,
                          ::testing::Values(Harness{"svg", replay_svg}, Harness{"custompath", replay_custompath},
                                            Harness{"colour", replay_colour}, Harness{"attributes", replay_attributes},
                                            Harness{"utf8", replay_utf8}, Harness{"textoffsets", replay_textoffsets},
-                                           Harness{"union", replay_union}),
+                                           Harness{"union", replay_union}, Harness{"callouts", replay_callouts}),
                          [](::testing::TestParamInfo<Harness> const &info) { return std::string(info.param.name); });
 
 } // namespace

@@ -119,7 +119,11 @@ int const kMaxRevealColumns = 1024;
 // head opens until 0.125. Any finite value, and either infinity, is read by
 // the same formulas, which clamp; NaN draws the finished arrow. Their bounds
 // are those of the finished arrow at any progress, measured anew at every
-// call.
+// call. During the reveal the ink can reach beyond them: UrbanTextArrow's
+// stroke steps down two tiles behind the moving body, and the miter joins of
+// that step (and of a thick stroke around the half-open head) stand out of
+// the finished outline; a host that repaints only the bounds while an
+// arrow comes in grows them by the stroke's miter reach.
 //
 // UrbanTextArrow's rear dissolves into a grid of square tiles two rows high,
 // filled in fading strengths as a wave runs through them from the head. A
