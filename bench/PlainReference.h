@@ -16,6 +16,8 @@
 
 namespace VantrelBench {
 
+constexpr double kPi = 3.141592653589793;
+
 // What a callout fills and what it strokes, as polygons in drawing order:
 // recorded from its own drawing, ellipses and paths flattened.
 struct PlainOutlines {
@@ -60,7 +62,7 @@ private:
     }
     Vantrel::Polygon ellipse(Vantrel::Rect const &r) {
         Vantrel::Path path;
-        path.AddArc(r.Center(), r.Width() * 0.5, r.Height() * 0.5, 0.0, 2 * Vantrel::kPi);
+        path.AddArc(r.Center(), r.Width() * 0.5, r.Height() * 0.5, 0.0, 2 * kPi);
         return path.Flattened(this);
     }
 };

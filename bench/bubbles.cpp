@@ -37,7 +37,7 @@ std::unique_ptr<BaseCallout> bubble(int which, double strokeWidth = kStroke) {
     if (which == 8) {
         std::vector<Point> tails;
         for (int i = 0; i < 8; ++i)
-            tails.push_back(Point::FromAngle(2 * kPi * i / 8 + 0.3) * 200);
+            tails.push_back(Point::FromAngle(2 * VantrelBench::kPi * i / 8 + 0.3) * 200);
         auto *b = new BasicSpeechBubble(
             kBox, CalloutProperties(kFill, "solid", Point(0, 1), kInk, strokeWidth, "solid"), tails);
         b->setTextCalloutProperties(text());

@@ -69,10 +69,10 @@ void plainDraw(benchmark::State &state) {
     for (auto _ : state) {
         cairo_save(cr);
         cairo_new_path(cr);
-        cairo_arc(cr, kMargin, top, kMargin, kPi, 1.5 * kPi);
-        cairo_arc(cr, kMargin + width, top, kMargin, 1.5 * kPi, 0);
-        cairo_arc(cr, kMargin + width, top + height, kMargin, 0, 0.5 * kPi);
-        cairo_arc(cr, kMargin, top + height, kMargin, 0.5 * kPi, kPi);
+        cairo_arc(cr, kMargin, top, kMargin, VantrelBench::kPi, 1.5 * VantrelBench::kPi);
+        cairo_arc(cr, kMargin + width, top, kMargin, 1.5 * VantrelBench::kPi, 0);
+        cairo_arc(cr, kMargin + width, top + height, kMargin, 0, 0.5 * VantrelBench::kPi);
+        cairo_arc(cr, kMargin, top + height, kMargin, 0.5 * VantrelBench::kPi, VantrelBench::kPi);
         cairo_set_source_rgba(cr, 0.1, 0.1, 0.1, 0.7);
         cairo_fill(cr);
         cairo_set_source_rgb(cr, 0, 0, 0);

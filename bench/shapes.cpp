@@ -1,6 +1,7 @@
 // Drawing each shape into a 512 by 512 Bitmap, against plain cairo filling
 // and stroking the same outline in the same run.
 #include "BenchTargets.h"
+#include "PlainReference.h"
 
 #include <vantrel/Vantrel.h>
 
@@ -49,7 +50,7 @@ void drawWithCairo(benchmark::State &state, Factory make) {
         if (oval) {
             cairo_save(cr);
             cairo_scale(cr, kBox.Width() / 2, kBox.Height() / 2);
-            cairo_arc(cr, 0, 0, 1, 0, 2 * kPi);
+            cairo_arc(cr, 0, 0, 1, 0, 2 * VantrelBench::kPi);
             cairo_restore(cr);
         } else {
             for (Point const &p : outline.points)

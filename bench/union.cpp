@@ -1,6 +1,7 @@
 // Polygons::UnionWith against Clipper and Boost.Geometry on the same inputs,
 // measured in the same run.
 #include "BenchTargets.h"
+#include "PlainReference.h"
 
 #include <vantrel/Vantrel.h>
 
@@ -26,14 +27,14 @@ Polygon star(int n, double cx, double cy, unsigned seed) {
     std::uniform_real_distribution<double> radius(150, 250);
     Polygon p;
     for (int i = 0; i < n; ++i)
-        p.points.push_back(Point(cx, cy) + Point::FromAngle(2 * kPi * i / n) * radius(rng));
+        p.points.push_back(Point(cx, cy) + Point::FromAngle(2 * VantrelBench::kPi * i / n) * radius(rng));
     return p;
 }
 
 Polygon circle(int n, double cx, double cy, double r) {
     Polygon p;
     for (int i = 0; i < n; ++i)
-        p.points.push_back(Point(cx, cy) + Point::FromAngle(2 * kPi * i / n) * r);
+        p.points.push_back(Point(cx, cy) + Point::FromAngle(2 * VantrelBench::kPi * i / n) * r);
     return p;
 }
 

@@ -5,6 +5,7 @@
 #include "drawing/SavedContextState.h"
 #include "text/KeptLayout.h"
 #include "text/TextLayout.h"
+#include "values/Pi.h"
 
 #include <vantrel/drawing/DrawingContext.h>
 #include <vantrel/geometry/Path.h>

@@ -1,4 +1,5 @@
 #include "drawing/CrossPlatformDrawingContextImpl.h"
+#include "values/Pi.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,5 @@
 #include "drawing/PolygonsDrawingContext.h"
+#include "values/Pi.h"
 
 #include <vantrel/drawing/CrossPlatformDrawingContext.h>
 #include <vantrel/geometry/Path.h>

@@ -1,4 +1,5 @@
 // Circles, rounded corners and nearest edges of a single polygon.
+#include "values/Pi.h"
 #include <vantrel/values/Polygon.h>
 
 #include <algorithm>

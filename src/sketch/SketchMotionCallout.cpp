@@ -81,6 +81,14 @@ SketchMotionCallout::~SketchMotionCallout() = default;
 
 double SketchMotionCallout::totalPathLength() const { return paths.totalLength(); }
 
+int SketchMotionCallout::pathCount() const { return int(paths.commandLists.size()); }
+
+int SketchMotionCallout::commandCount(int path) const {
+    return path >= 0 && path < pathCount() ? int(paths.commandLists[size_t(path)].size()) : 0;
+}
+
+Rect SketchMotionCallout::pictureBounds() const { return paths.bounds; }
+
 void SketchMotionCallout::drawProgressIntoContext(DrawingContext *context, double progress, Color const &color,
                                                   double penWidth, Rect const &rect) {
     if (!finiteRect(rect) || !(penWidth >= 0.0) || !std::isfinite(penWidth) || rect.Width() < penWidth ||

@@ -1,4 +1,5 @@
 #include "support/PixelProbe.h"
+#include "values/Pi.h"
 
 #include <cairo.h>
 #include <gtest/gtest.h>

@@ -3,6 +3,7 @@
 #include <vantrel/Vantrel.h>
 
 #include "geometry/gpc.h"
+#include "values/Pi.h"
 
 #include <gtest/gtest.h>
 

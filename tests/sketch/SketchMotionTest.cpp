@@ -1,4 +1,5 @@
 #include "sketch/SVGPathReader.h"
+#include "sketch/SketchMotionAccess.h"
 #include "support/PixelProbe.h"
 
 #include <vantrel/Vantrel.h>
@@ -196,14 +197,14 @@ TEST(SVGPathReaderTest, DocumentsKeepPathChildrenAndCarryThePen) {
                              "<path d=\"M0 0 L10 0\"/><g><path d=\"M5 5 L6 6\"/></g><path d=\"\"/>"
                              "<rect d=\"M1 1 L2 2\"/><path d=\"m0 20 l5 0\"/></svg>";
     SketchMotionCallout callout(text);
-    auto const &lists = callout.motionPaths().commandLists;
+    auto const &lists = SketchMotionAccess::paths(callout).commandLists;
     ASSERT_EQ(lists.size(), 2u); // not the group's, not the empty one's, not the rect's
     auto const &move = as<MoveCommand>(lists[1][0]);
     EXPECT_EQ(move.start, Point(10, 0)); // relative to where the first element ended
     EXPECT_EQ(move.end, Point(10, 20));
     EXPECT_NEAR(move.length(), 14, 1e-12); // something was drawn before it
     EXPECT_NEAR(callout.totalPathLength(), 10 + 14 + 5, 1e-12);
-    Rect const b = callout.motionPaths().bounds;
+    Rect const b = SketchMotionAccess::paths(callout).bounds;
     EXPECT_NEAR(b.topLeft.x, 0, 0.01);
     EXPECT_NEAR(b.topLeft.y, 0, 0.01);
     EXPECT_NEAR(b.bottomRight.x, 15, 0.01);
@@ -216,7 +217,7 @@ TEST(SVGPathReaderTest, ReadsInTheClassicLocaleAndRestoresIt) {
         GTEST_SKIP() << "no locale with a decimal comma";
     std::string const german = std::setlocale(LC_ALL, nullptr);
     SketchMotionCallout callout(document({"M0.5 0.25 L10.5 0"}));
-    EXPECT_EQ(as<MoveCommand>(callout.motionPaths().commandLists[0][0]).end, Point(0.5, 0.25));
+    EXPECT_EQ(as<MoveCommand>(SketchMotionAccess::paths(callout).commandLists[0][0]).end, Point(0.5, 0.25));
     EXPECT_EQ(std::setlocale(LC_ALL, nullptr), german);
     EXPECT_THROW(SketchMotionCallout(document({"M0.5 0.25 L"})), std::runtime_error);
     EXPECT_EQ(std::setlocale(LC_ALL, nullptr), german);
@@ -227,7 +228,7 @@ TEST(SVGPathReaderTest, ReadsInTheClassicLocaleAndRestoresIt) {
 
 TEST(SketchMotionTest, ProgressRevealsStrokesInOrder) {
     SketchMotionCallout callout(kTwoStrokes);
-    SketchMotionPaths const &paths = callout.motionPaths();
+    SketchMotionPaths const &paths = SketchMotionAccess::paths(callout);
     double const total = callout.totalPathLength();
     double first = 0.0;
     for (auto const &c : paths.commandLists[0])

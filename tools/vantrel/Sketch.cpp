@@ -69,10 +69,9 @@ SketchRequest parse(std::vector<std::string> args) {
 }
 
 void printInfo(SketchMotionCallout const &sketch) {
-    SketchMotionPaths const &paths = sketch.motionPaths();
-    std::cout << "totalPathLength: " << sketch.totalPathLength() << "\nbounds: " << paths.bounds << '\n';
-    for (size_t i = 0; i < paths.commandLists.size(); ++i)
-        std::cout << "path " << i + 1 << ": " << paths.commandLists[i].size() << " commands\n";
+    std::cout << "totalPathLength: " << sketch.totalPathLength() << "\nbounds: " << sketch.pictureBounds() << '\n';
+    for (int i = 0; i < sketch.pathCount(); ++i)
+        std::cout << "path " << i + 1 << ": " << sketch.commandCount(i) << " commands\n";
 }
 
 int writeFrame(SketchMotionCallout &sketch, SketchRequest const &r, double progress, std::string const &path) {

@@ -84,10 +84,16 @@ public:
 
     // The whole length of the unscaled picture, pen-up moves included.
     double totalPathLength() const;
-    // The picture as read: for hosts and tools that show what a document holds.
-    SketchMotionPaths const &motionPaths() const { return paths; }
+    // What the picture holds, for hosts and tools that show a document: the
+    // path elements read, the pen commands of one of them (0 for an index
+    // outside 0 .. pathCount() - 1), and the bounds of its ink at pen width
+    // 0, unscaled. The commands themselves are the library's own.
+    int pathCount() const;
+    int commandCount(int path) const;
+    Rect pictureBounds() const;
 
 private:
+    friend struct SketchMotionAccess; // the library's own tests read the commands
     SketchMotionPaths paths;
     boost::shared_ptr<SketchMotionPaths> scaledPaths; // fitted to the last drawing's rect
     Point scaledFactor;

@@ -8,10 +8,6 @@
 
 namespace Vantrel {
 
-// The library's one pi: acos(0) + acos(0), which is exactly the double
-// nearest to pi. Angles are radians, from +x towards +y.
-constexpr double kPi = 3.141592653589793;
-
 struct PointInt {
     int32_t x = 0;
     int32_t y = 0;

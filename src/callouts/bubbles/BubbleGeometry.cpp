@@ -1,4 +1,5 @@
 #include "callouts/bubbles/BubbleGeometry.h"
+#include "callouts/frame/Painting.h"
 
 #include <vantrel/callouts/frame/BaseCallout.h>
 #include <vantrel/values/Matrix3x3.h>
@@ -157,10 +158,7 @@ void fillEllipseWithStyle(DrawingContext *context, Rect const &rect, Color const
     Color c = color;
     if (alpha != 1.0)
         c.alpha *= float(alpha);
-    if (gradient)
-        context->FillEllipse(makeGradientPattern(c, rect, direction), rect);
-    else
-        context->FillEllipse(c, rect);
+    fillOutline(context, EllipseOutline{rect}, c, gradient, rect, direction);
 }
 
 void drawThoughtCircles(Rect const &shape, Point const &extent, Point const &tail, double rimFactor,
@@ -181,9 +179,12 @@ void drawThoughtCircles(Rect const &shape, Point const &extent, Point const &tai
     } const circles[] = {{Rect(tail, tail).Expanded(Point(small, small)), translucent ? double(0.6f) : 1.0},
                          {Rect(mid, mid).Expanded(Point(big, big)), translucent ? double(0.8f) : 1.0}};
     for (Circle const &c : circles) {
-        fillEllipseWithStyle(context, c.rect, fill, c.alpha, gradient, direction);
-        if (strokeWidth > 0)
-            context->StrokeEllipse(stroke, strokeWidth, strokeStyle, c.rect);
+        Color translucentFill = fill;
+        if (c.alpha != 1.0)
+            translucentFill.alpha *= float(c.alpha);
+        CalloutProperties const circle(translucentFill, gradient ? "gradient" : "solid", direction, stroke, strokeWidth,
+                                       strokeStyle);
+        paintOutline(context, circle, EllipseOutline{c.rect}, c.rect);
     }
 }
 

@@ -7,6 +7,7 @@
 #pragma once
 
 #include "drawing/SavedContextState.h"
+#include "values/Pi.h"
 
 #include <vantrel/drawing/DrawingContext.h>
 #include <vantrel/geometry/Path.h>

@@ -1,8 +1,8 @@
 #include <vantrel/callouts/frame/BaseCallout.h>
 
+#include "callouts/frame/Painting.h"
 #include "drawing/BoundsFinder.h"
 #include "drawing/PolygonsDrawingContext.h"
-#include "callouts/frame/Painting.h"
 
 #include <algorithm>
 #include <cmath>
@@ -74,10 +74,7 @@ GradientPattern makeGradientPattern(Color const &color, Rect const &rect, Point 
 
 void fillPolygonWithStyle(DrawingContext *context, Polygon const &polygon, Color const &color, std::string const &style,
                           Rect const &rect, Point const &direction) {
-    if (style == "gradient")
-        context->Fill(makeGradientPattern(color, rect, direction), polygon);
-    else
-        context->Fill(color, polygon);
+    fillOutline(context, polygon, color, style == "gradient", rect, direction);
 }
 
 } // namespace Vantrel

@@ -49,13 +49,7 @@ void TextCallout::paintOutline(DrawingContext *context, CalloutProperties const 
 
 void TextCallout::paintPath(DrawingContext *context, CalloutProperties const &properties, Path const &path,
                             Rect const &r) {
-    if (properties.isGradient())
-        context->FillPath(makeGradientPattern(properties.fillColor, r, properties.gradientDirection), path);
-    else
-        context->FillPath(properties.fillColor, path);
-    if (properties.strokeWidth > 0)
-        context->StrokePath(properties.strokeColor, properties.strokeWidth, properties.strokeStyle, path, LineCapSquare,
-                            LineJoinMiter, true);
+    Vantrel::paintOutline(context, properties, path, r);
 }
 
 } // namespace Vantrel

@@ -1,4 +1,5 @@
 // The shape factories: one class per kind, a corner radius or star ratio per theme.
+#include "values/Pi.h"
 #include <vantrel/callouts/Presets.h>
 #include <vantrel/callouts/shapes/Shapes.h>
 

@@ -1,6 +1,7 @@
 #include <vantrel/callouts/shapes/Shapes.h>
 
 #include "callouts/frame/Painting.h"
+#include "values/Pi.h"
 
 #include <cmath>
 
@@ -19,12 +20,7 @@ void ShapeCallout::fillAndStroke(DrawingContext *context, Polygon polygon, doubl
 }
 
 void OvalShape::drawIntoContext(DrawingContext *context, DrawOptions, Rect, int, DrawOutputMetaData *) const {
-    if (properties.isGradient())
-        context->FillEllipse(makeGradientPattern(properties.fillColor, rect, properties.gradientDirection), rect);
-    else
-        context->FillEllipse(properties.fillColor, rect);
-    if (properties.strokeWidth > 0)
-        context->StrokeEllipse(properties.strokeColor, properties.strokeWidth, properties.strokeStyle, rect);
+    paintOutline(context, properties, EllipseOutline{rect}, rect);
 }
 
 OvalShape *OvalShape::clone() const { return new OvalShape(*this); }

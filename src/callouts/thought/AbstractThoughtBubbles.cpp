@@ -1,6 +1,7 @@
 // The Abstract thought bubbles: eight lobes around a square, and an ellipse
 // with eight circles on its rim.
 #include "callouts/thought/ThoughtCommon.h"
+#include "values/Pi.h"
 
 #include <algorithm>
 #include <cmath>

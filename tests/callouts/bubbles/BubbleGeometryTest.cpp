@@ -2,6 +2,7 @@
 #include "support/LoggingContext.h"
 
 #include "callouts/bubbles/BubbleGeometry.h"
+#include "values/Pi.h"
 
 #include <gtest/gtest.h>
 

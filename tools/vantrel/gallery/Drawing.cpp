@@ -9,6 +9,8 @@ using namespace Vantrel;
 
 namespace VantrelTool {
 
+constexpr double kPi = 3.141592653589793;
+
 namespace {
 
 Rect const kBox(-70, -45, 70, 45);

@@ -90,8 +90,9 @@ inline BaseCallout::DrawOptions operator|(BaseCallout::DrawOptions a, BaseCallou
 // bottom, so that the pattern is always drawable.
 VANTREL_EXPORT GradientPattern makeGradientPattern(Color const &color, Rect const &rect, Point const &direction);
 
-// Fills with makeGradientPattern if style is "gradient", else with color.
-void fillPolygonWithStyle(DrawingContext *context, Polygon const &polygon, Color const &color, std::string const &style,
-                          Rect const &rect, Point const &direction);
+// Fills polygon in context: with makeGradientPattern(color, rect, direction)
+// if style is "gradient", else with color alone.
+VANTREL_EXPORT void fillPolygonWithStyle(DrawingContext *context, Polygon const &polygon, Color const &color,
+                                         std::string const &style, Rect const &rect, Point const &direction);
 
 } // namespace Vantrel
