@@ -3,6 +3,8 @@
 // ordered with no start after its end, and copies stay as they were made.
 #include "FuzzCheck.h"
 
+#include "text/AttributeListInvariant.h"
+
 #include <fuzzer/FuzzedDataProvider.h>
 #include <pango/pango.h>
 
@@ -133,18 +135,6 @@ bool sameAttributes(TextAttributeList const &x, TextAttributeList const &y) {
     return same;
 }
 
-bool ordered(TextAttributeList const &list) {
-    std::vector<PangoAttribute *> const all = listed(list);
-    bool sorted = true;
-    guint last = 0;
-    for (PangoAttribute const *a : all) {
-        sorted = sorted && a->start_index >= last && a->start_index <= a->end_index;
-        last = a->start_index;
-    }
-    release(all);
-    return sorted;
-}
-
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(uint8_t const *data, size_t size) {
@@ -186,7 +176,7 @@ extern "C" int LLVMFuzzerTestOneInput(uint8_t const *data, size_t size) {
             list.applyCharacterSpacing();
             break;
         }
-        VantrelFuzz::check(ordered(list), "the list stays ordered by start, no start after its end");
+        VantrelFuzz::check(verifyTextAttributeList(list), "the list stays ordered by start, no start after its end");
     }
     for (auto const &c : copies)
         VantrelFuzz::check(sameAttributes(c.first, c.second), "copies stay as they were made");

@@ -1,5 +1,6 @@
 #include <vantrel/text/TextAttributeList.h>
 
+#include "text/AttributeListInvariant.h"
 #include "text/CharacterSpacingAttribute.h"
 #include "values/Rounding.h"
 
@@ -47,19 +48,6 @@ guint movedOffset(guint offset, int64_t delta) {
     return moved < 0 ? 0 : moved > int64_t(G_MAXUINT) ? G_MAXUINT : guint(moved);
 }
 
-bool sortedByStart(PangoAttrList *list) {
-    GSList *all = pango_attr_list_get_attributes(list);
-    bool sorted = true;
-    guint last = 0;
-    for (GSList *l = all; l; l = l->next) {
-        auto *a = static_cast<PangoAttribute *>(l->data);
-        sorted = sorted && a->start_index >= last;
-        last = a->start_index;
-    }
-    g_slist_free_full(all, reinterpret_cast<GDestroyNotify>(pango_attribute_destroy));
-    return sorted;
-}
-
 // A new list of copies of every attribute, in the order of their starts (of
 // equal starts, the earlier first). Pango's iterators and its change and
 // splice operations take the order for granted.
@@ -79,6 +67,32 @@ PangoAttrList *sortedCopy(PangoAttrList *list) {
 
 } // namespace
 
+bool verifyAttributeOrder(PangoAttrList *list) {
+    GSList *all = pango_attr_list_get_attributes(list);
+    bool ordered = true;
+    guint last = 0;
+    for (GSList *l = all; l; l = l->next) {
+        auto const *a = static_cast<PangoAttribute const *>(l->data);
+        ordered = ordered && a->start_index >= last && a->start_index <= a->end_index;
+        last = a->start_index;
+    }
+    g_slist_free_full(all, reinterpret_cast<GDestroyNotify>(pango_attribute_destroy));
+    return ordered;
+}
+
+// Holds a list's spin lock for a scope, so that an exception (an allocation
+// that fails while it is held) cannot leave it held.
+class TextAttributeList::ListGuard {
+public:
+    explicit ListGuard(TextAttributeList const &list) : held(list) { held.lockList(); }
+    ~ListGuard() { held.unlockList(); }
+    ListGuard(ListGuard const &) = delete;
+    ListGuard &operator=(ListGuard const &) = delete;
+
+private:
+    TextAttributeList const &held;
+};
+
 TextAttributeList::AttributeType TextAttributeList::customCharacterSpacingType() {
     return AttributeType(characterSpacingType());
 }
@@ -93,9 +107,10 @@ void TextAttributeList::unlockList() const { lock.exchange(0, std::memory_order_
 TextAttributeList::TextAttributeList() : attrList(new Cell{pango_attr_list_new()}) {}
 
 TextAttributeList::TextAttributeList(TextAttributeList const &other) : attrList(new Cell{nullptr}) {
-    other.lockList();
-    attrList->list = pango_attr_list_copy(other.attrList->list);
-    other.unlockList();
+    {
+        ListGuard guard(other);
+        attrList->list = pango_attr_list_copy(other.attrList->list);
+    }
     if (!attrList->list) // pango gives null for a copy of an empty list
         attrList->list = pango_attr_list_new();
 }
@@ -103,12 +118,11 @@ TextAttributeList::TextAttributeList(TextAttributeList const &other) : attrList(
 TextAttributeList &TextAttributeList::operator=(TextAttributeList const &other) {
     if (this == &other)
         return *this;
-    lockList();
+    ListGuard guard(*this);
     pango_attr_list_unref(attrList->list);
     attrList->list = pango_attr_list_copy(other.attrList->list);
     if (!attrList->list)
         attrList->list = pango_attr_list_new();
-    unlockList();
     return *this;
 }
 
@@ -121,22 +135,20 @@ TextAttributeList::~TextAttributeList() {
 PangoAttrList *TextAttributeList::pangoAttrList() const { return attrList->list; }
 
 void TextAttributeList::replaceList(PangoAttrList *list) {
-    lockList();
+    ListGuard guard(*this);
     pango_attr_list_unref(attrList->list);
     attrList->list = list;
-    unlockList();
 }
 
 void TextAttributeList::keepSorted() {
-    if (!sortedByStart(attrList->list))
+    if (!verifyAttributeOrder(attrList->list))
         replaceList(sortedCopy(attrList->list));
 }
 
 void TextAttributeList::change(PangoAttribute *attribute, Range const &range) {
     setByteRange(attribute, range);
-    lockList();
+    ListGuard guard(*this);
     pango_attr_list_change(attrList->list, attribute);
-    unlockList();
 }
 
 void TextAttributeList::addFGColorAttribute(Range const &range, Color const &color) {
@@ -180,29 +192,29 @@ void TextAttributeList::addPangoAttribute(PangoAttribute *attribute) {
         return;
     if (attribute->start_index > attribute->end_index)
         std::swap(attribute->start_index, attribute->end_index);
-    lockList();
+    ListGuard guard(*this);
     pango_attr_list_change(attrList->list, attribute);
-    unlockList();
 }
 
 std::vector<PangoAttribute *> TextAttributeList::pangoAttributes() const {
     static std::vector<int> const types = listedTypes();
     std::set<PangoAttribute *> found;
-    lockList();
-    PangoAttrIterator *it = pango_attr_list_get_iterator(attrList->list);
-    do {
-        for (int type : types)
-            if (PangoAttribute *a = pango_attr_iterator_get(it, PangoAttrType(type)))
-                found.insert(a);
-    } while (pango_attr_iterator_next(it));
-    pango_attr_iterator_destroy(it);
-    unlockList();
+    {
+        ListGuard guard(*this);
+        PangoAttrIterator *it = pango_attr_list_get_iterator(attrList->list);
+        do {
+            for (int type : types)
+                if (PangoAttribute *a = pango_attr_iterator_get(it, PangoAttrType(type)))
+                    found.insert(a);
+        } while (pango_attr_iterator_next(it));
+        pango_attr_iterator_destroy(it);
+    }
     return std::vector<PangoAttribute *>(found.begin(), found.end());
 }
 
 std::vector<boost::shared_ptr<PangoAttributeContainer>> TextAttributeList::attributeRuns() const {
     std::vector<boost::shared_ptr<PangoAttributeContainer>> runs;
-    lockList();
+    ListGuard guard(*this);
     PangoAttrIterator *it = pango_attr_list_get_iterator(attrList->list);
     do {
         gint start = 0, end = 0;
@@ -218,7 +230,6 @@ std::vector<boost::shared_ptr<PangoAttributeContainer>> TextAttributeList::attri
         g_slist_free(attrs);
     } while (pango_attr_iterator_next(it));
     pango_attr_iterator_destroy(it);
-    unlockList();
     return runs;
 }
 
@@ -231,9 +242,8 @@ TextAttributeList TextAttributeList::attributeListForSubRange(Range const &range
         copy->start_index = std::max(copy->start_index, bounds.start_index);
         copy->end_index = std::min(copy->end_index, bounds.end_index);
         if (copy->end_index > copy->start_index) {
-            sub.lockList();
+            ListGuard guard(sub);
             pango_attr_list_change(sub.attrList->list, copy);
-            sub.unlockList();
         } else {
             pango_attribute_destroy(copy);
         }
@@ -244,11 +254,10 @@ TextAttributeList TextAttributeList::attributeListForSubRange(Range const &range
 void TextAttributeList::extendAttributes(int position, int length) {
     if (length <= 0)
         return;
-    lockList();
+    ListGuard guard(*this);
     PangoAttrList *empty = pango_attr_list_new();
     pango_attr_list_splice(attrList->list, empty, position > 1 ? position - 1 : 0, length);
     pango_attr_list_unref(empty);
-    unlockList();
 }
 
 void TextAttributeList::removeAttributes(int start, int length) {

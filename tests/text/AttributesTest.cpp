@@ -1,3 +1,5 @@
+#include "text/AttributeListInvariant.h"
+
 #include <vantrel/Vantrel.h>
 
 #include <gtest/gtest.h>
@@ -24,6 +26,9 @@ std::vector<Range> rangesOf(T const &list, T::AttributeType type) {
     std::sort(out.begin(), out.end(), [](Range a, Range b) { return a.start() < b.start(); });
     return out;
 }
+
+// The list's own invariant, checked after every edit.
+void expectWellFormed(T const &list) { EXPECT_TRUE(verifyTextAttributeList(list)); }
 
 PangoAttribute *first(T const &list, T::AttributeType type) {
     for (PangoAttribute *a : list.pangoAttributes())
@@ -91,6 +96,7 @@ TEST(TextAttributeList, EditsKeepRangesRight) {
     list.addFontSizeAttribute(Range(6, 9), 20);
     list.addUnderlineAttribute(Range(3, 4), 1);
     list.removeAttributes(2, 3);
+    expectWellFormed(list);
     EXPECT_EQ(rangesOf(list, T::FontWeight), (std::vector<Range>{Range(0, 7)}));
     EXPECT_EQ(rangesOf(list, T::FontSize), (std::vector<Range>{Range(3, 6)}));
     EXPECT_TRUE(rangesOf(list, T::Underline).empty() || rangesOf(list, T::Underline)[0] == Range(2, 2));
@@ -107,8 +113,10 @@ TEST(TextAttributeList, EditsKeepRangesRight) {
     T grow;
     grow.addFontWeightAttribute(Range(0, 5), 700);
     grow.extendAttributes(5, 2);
+    expectWellFormed(grow);
     EXPECT_EQ(rangesOf(grow, T::FontWeight), (std::vector<Range>{Range(0, 7)}));
     grow.extendAttributes(0, 2);
+    expectWellFormed(grow);
     EXPECT_EQ(rangesOf(grow, T::FontWeight), (std::vector<Range>{Range(0, 9)}));
 
     // Unlisted types: font features stay through a shift, unshifted, and are lost by a removal.
@@ -119,10 +127,12 @@ TEST(TextAttributeList, EditsKeepRangesRight) {
     liga->end_index = 4;
     features.addPangoAttribute(liga);
     features.shiftAllAttributesByOffset(3);
+    expectWellFormed(features);
     EXPECT_EQ(rangesOf(features, T::FontWeight), (std::vector<Range>{Range(3, 7)}));
     size_t runs = features.attributeRuns().size();
     EXPECT_GE(runs, 3u); // the weight, and the features in two segments
     features.removeAttributes(0, 1);
+    expectWellFormed(features);
     for (auto const &run : features.attributeRuns())
         EXPECT_NE(run->attribute()->klass->type, PANGO_ATTR_FONT_FEATURES);
 
@@ -157,18 +167,6 @@ TEST(TextAttributeList, CharacterSpacingBecomesLetterSpacing) {
 namespace {
 
 // What pango is handed: every attribute in order of start, none reversed.
-void expectWellFormed(T const &list) {
-    GSList *all = pango_attr_list_get_attributes(list.pangoAttrList());
-    guint last = 0;
-    for (GSList *l = all; l; l = l->next) {
-        auto const *a = static_cast<PangoAttribute const *>(l->data);
-        EXPECT_GE(a->start_index, last);
-        EXPECT_LE(a->start_index, a->end_index);
-        last = a->start_index;
-    }
-    g_slist_free_full(all, reinterpret_cast<GDestroyNotify>(pango_attribute_destroy));
-}
-
 // Lays the list out over a short text, as drawing would.
 void layOut(T const &list) {
     PangoFonts::setLoadFallbackFonts(false);

@@ -134,6 +134,7 @@ public:
 
 private:
     struct Cell;
+    class ListGuard; // holds lock for a scope
     void lockList() const;
     void unlockList() const;
     void change(PangoAttribute *attribute, Range const &range);
