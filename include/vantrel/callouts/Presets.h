@@ -12,6 +12,41 @@
 
 namespace Vantrel {
 
+// The arguments the factories share, in the order they come:
+//
+// - theme: which family's design. ThemeModern has only the oval and the
+//   line with caps; any value outside ThemeBasic .. ThemeAbstract gives null,
+//   except for the oval and the line with caps, which every value makes.
+// - fill, stroke, color: straight (not premultiplied) colours, each channel
+//   0 to 1; cairo cuts a channel outside that range to it, and NaN counts as
+//   0. The stroke colour, width and style draw nothing when the width is not
+//   above 0.
+// - fillStyle: "gradient" fills with the three-stop gradient derived from
+//   fill (makeGradientPattern) along gradientDirection over the outline's
+//   rect; every other string fills solid.
+// - gradientDirection: a vector in drawing coordinates, of any length; one
+//   without length (zero or not finite) runs from top to bottom, (0, 1).
+// - strokeWidth, width: pixels of the drawing (user units), as drawn under
+//   the context's transform. Not above 0 (or NaN): no stroke. Widths beyond
+//   10 million are drawn at that.
+// - strokeStyle: "solid" (or empty), "dash", "dot", "dashdot",
+//   "dashdotdot", their dashes scaled by the width; any other word leaves
+//   the context's dash as it was (solid on a new context).
+// - rect: the box of the shape or of the text, in drawing coordinates,
+//   normally centred on the origin (Translate the context to place it): the
+//   star and the thought clouds are built around the origin whatever the
+//   box. An inverted or empty box gives a defined, degenerate drawing.
+// - tailPoint: where a bubble's tail points, in the same coordinates; it may
+//   lie anywhere, inside the body included.
+// - progress: how far an Urban text arrow has come in, normally 0 to 1;
+//   other values go through the same clamping formulas, and NaN draws the
+//   finished arrow. The other themes ignore it.
+// - text, attributes: the text callout's text, laid out in text.textRect
+//   (normally the same box as rect), and its ranged attributes (byte
+//   offsets; an offset inside a character counts from that character's
+//   start), both copied into the callout.
+//
+// Every factory returns a new object that the caller deletes, or null.
 class VANTREL_EXPORT Presets {
 public:
     // Fixed to int, so that any number a host passes is a value of the type
@@ -58,7 +93,9 @@ public:
     static BaseCallout *createShapeStar(Theme theme, Color const &fill, Color const &stroke, double strokeWidth,
                                         std::string const &strokeStyle, Rect const &rect);
 
-    // The theme's fixed line from start to end; null for ThemeModern and unknown themes.
+    // The theme's fixed line from start to end (drawing coordinates; a line
+    // whose ends are equal draws nothing); null for ThemeModern and unknown
+    // themes.
     static BaseCallout *createLine(Theme theme, Color const &color, Point const &start, Point const &end);
     // The theme's double arrow (Urban: a single arrow of half width `width`).
     // The strings reach no drawing: the first is kept by the Urban arrow,
@@ -67,7 +104,9 @@ public:
                                     Point const &start, std::string startStyle, Point const &end, std::string endStyle);
     // A line of the theme's shaft and cap designs, width wide; the first cap
     // belongs to start. Every theme value gives a line: an unknown theme has
-    // a tapered shaft and no caps.
+    // a tapered shaft and no caps. A shaft type outside LineShaftSolid ..
+    // LineShaftDashed is the tapered shaft; a cap type outside
+    // LineEndCapCircle .. LineEndCapDot, or one the theme lacks, is no cap.
     static LineWithCaps *createLine(Theme theme, Color const &color, double width, Point const &start, Point const &end,
                                     LineShaftType shaftType, LineEndCapType startCapType, LineEndCapType endCapType);
 
