@@ -63,8 +63,13 @@ Caption::Caption(CaptionProperties const &properties, TextAttributeList const &a
         all, double(std::max(1, std::min(properties.fontSize, CaptionProperties::kMaxFontSize))));
     mAttributes.addFGColorAttribute(all, properties.textColor);
     mAttributes.addFontFallbackAttribute(all, true);
-    mTextProperties = TextCalloutProperties(properties.text, properties.rect, false, true, false, false, false,
-                                            properties.alignment, Top, 0.0, "resizeText", WrapWordChar, true);
+    // Word wrap by words, then characters; top aligned; no caps, flips or extra line space.
+    mTextProperties.text = properties.text;
+    mTextProperties.textRect = properties.rect;
+    mTextProperties.isRightToLeft = UTF8StringUtil::isRightToLeftLanguage(properties.text);
+    mTextProperties.horizontalAlignment = properties.alignment;
+    mTextProperties.verticalAlignment = Top;
+    mTextProperties.wrapMode = WrapWordChar;
     mLayout.reset(new KeptLayout());
     mLineCount = lineCountOfLayout();
 }
@@ -75,7 +80,8 @@ Caption::~Caption() = default;
 // whenever the caption is used on another thread than the last build's.
 PangoLayout *Caption::layout() const {
     if (!mLayout->get() || !mLayout->isHome())
-        mLayout->reset(buildTextLayout(mTextProperties, mAttributes, false, mMargin, mProperties.maxLines < 0));
+        mLayout->reset(buildTextLayout(mTextProperties, mAttributes,
+                                       LayoutOptions().withMargin(mMargin).ofBoxHeight(mProperties.maxLines >= 0)));
     return mLayout->get();
 }
 

@@ -48,7 +48,7 @@ struct TextEditingSession::Impl {
     // The layout, built again on the calling thread if another built it.
     PangoLayout *layout() const {
         if (!kept.isHome())
-            kept.reset(buildTextLayout(builtProperties, builtAttributes, builtFitted, 0, true));
+            kept.reset(buildTextLayout(builtProperties, builtAttributes, LayoutOptions().fitted(builtFitted)));
         return kept.get();
     }
 
@@ -71,7 +71,7 @@ struct TextEditingSession::Impl {
         builtProperties = properties();
         builtAttributes = edited().textAttributeList();
         builtFitted = fitToBox;
-        kept.reset(buildTextLayout(builtProperties, builtAttributes, fitToBox, 0, true));
+        kept.reset(buildTextLayout(builtProperties, builtAttributes, LayoutOptions().fitted(fitToBox)));
         PangoLayout *const layout = kept.get();
         if (fitToBox)
             return;

@@ -64,7 +64,8 @@ std::shared_ptr<SpriteSheet> SpriteSheet::FromText(TextCalloutProperties const &
     sheet->impl->layoutRect = Rect(box.topLeft.MultipliedBy(scale), box.bottomRight.MultipliedBy(scale));
     if (!usableScale(scale))
         return sheet;
-    PangoLayout *layout = buildTextLayout(properties, attributes, fitToBox, margin, unlimitedHeight);
+    PangoLayout *layout = buildTextLayout(
+        properties, attributes, LayoutOptions().fitted(fitToBox).withMargin(margin).ofBoxHeight(!unlimitedHeight));
     cairo_matrix_t matrix;
     textLayoutMatrix(properties, &matrix, layout);
     // Only the translation: flips move the text but mirror no cell.

@@ -31,7 +31,7 @@ PangoLayout *prepareText(cairo_t *cr, TextCalloutProperties const &properties, T
     cairo_clip(cr);
     if (PathState *paths = CairoUtil::pathState(cr))
         paths->reach.clear(); // the clip took the path
-    PangoLayout *layout = buildTextLayout(properties, attributes, properties.resizesText(), 0, true);
+    PangoLayout *layout = buildTextLayout(properties, attributes, LayoutOptions().fitted(properties.resizesText()));
     if (layout) {
         cairo_matrix_t toDrawing;
         textLayoutMatrix(properties, &toDrawing, layout);

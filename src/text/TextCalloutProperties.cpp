@@ -21,7 +21,7 @@ TextCalloutProperties::TextCalloutProperties(std::string const &text_, Rect cons
 
 int TextCalloutUtil::calculateNumberOfPangoLayoutLines(TextCalloutProperties const &properties,
                                                        TextAttributeList const &attributes) {
-    PangoLayout *layout = buildTextLayout(properties, attributes, true, 0, true);
+    PangoLayout *layout = buildTextLayout(properties, attributes, LayoutOptions().fitted());
     int lines = pango_layout_get_line_count(layout);
     g_object_unref(layout);
     return lines;
@@ -29,7 +29,7 @@ int TextCalloutUtil::calculateNumberOfPangoLayoutLines(TextCalloutProperties con
 
 std::vector<Range> TextCalloutUtil::lineRanges(TextCalloutProperties const &properties,
                                                TextAttributeList const &attributes) {
-    PangoLayout *layout = buildTextLayout(properties, attributes, true, 0, true);
+    PangoLayout *layout = buildTextLayout(properties, attributes, LayoutOptions().fitted());
     std::vector<Range> ranges;
     PangoLayoutIter *it = pango_layout_get_iter(layout);
     do {

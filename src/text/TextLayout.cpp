@@ -284,7 +284,7 @@ void textLayoutMatrix(TextCalloutProperties const &properties, cairo_matrix_t *m
 
 Point CrossPlatformDrawingContext::calculateDrawingDimensions(TextCalloutProperties const &properties,
                                                               TextAttributeList const &attributes) {
-    PangoLayout *layout = buildTextLayout(properties, attributes, false, 0, true);
+    PangoLayout *layout = buildTextLayout(properties, attributes, LayoutOptions());
     int width = 0, height = 0;
     pango_layout_get_pixel_size(layout, &width, &height);
     g_object_unref(layout);
@@ -293,7 +293,7 @@ Point CrossPlatformDrawingContext::calculateDrawingDimensions(TextCalloutPropert
 
 double CrossPlatformDrawingContext::calculateDrawingFontScale(TextCalloutProperties const &properties,
                                                               TextAttributeList const &attributes) {
-    PangoLayout *layout = buildTextLayout(properties, attributes, properties.resizesText(), 0, true);
+    PangoLayout *layout = buildTextLayout(properties, attributes, LayoutOptions().fitted(properties.resizesText()));
     double scale = fontScaleForLayout(layout, properties, attributes);
     g_object_unref(layout);
     return scale;

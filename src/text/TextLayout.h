@@ -34,6 +34,38 @@ std::mutex &layoutLock();
 PangoLayout *buildTextLayout(TextCalloutProperties const &properties, TextAttributeList const &attributes,
                              bool fitToBox, double margin, bool unlimitedHeight);
 
+// The three choices of buildTextLayout by name, for the library's own calls:
+// LayoutOptions().fitted().withMargin(2).ofBoxHeight() reads where
+// (true, 2, false) does not. By default: not fitted, no margin, of
+// unlimited height.
+struct LayoutOptions {
+    bool fitToBox = false;
+    double margin = 0.0;
+    bool unlimitedHeight = true;
+
+    LayoutOptions fitted(bool fit = true) const {
+        LayoutOptions o = *this;
+        o.fitToBox = fit;
+        return o;
+    }
+    LayoutOptions withMargin(double m) const {
+        LayoutOptions o = *this;
+        o.margin = m;
+        return o;
+    }
+    // The height of the box less the margin; unlimited if unlimited is true.
+    LayoutOptions ofBoxHeight(bool limited = true) const {
+        LayoutOptions o = *this;
+        o.unlimitedHeight = !limited;
+        return o;
+    }
+};
+
+inline PangoLayout *buildTextLayout(TextCalloutProperties const &properties, TextAttributeList const &attributes,
+                                    LayoutOptions const &options) {
+    return buildTextLayout(properties, attributes, options.fitToBox, options.margin, options.unlimitedHeight);
+}
+
 // The scale at which the layout's text fits textRect, by eight rounds of
 // bisection; 1 when resizeBehavior is not "resizeText".
 double fontScaleForLayout(PangoLayout *layout, TextCalloutProperties const &properties,

@@ -198,6 +198,14 @@ void drawThoughtCirclesForTails(Rect const &shape, Point const &extent, std::vec
                                translucent, gradient, direction);
 }
 
+void drawThoughtCirclesForTails(Rect const &shape, Point const &extent, std::vector<Point> const &tails,
+                                double rimFactor, DrawingContext *context, CalloutProperties const &properties,
+                                bool translucent, int tailIndex) {
+    drawThoughtCirclesForTails(shape, extent, tails, rimFactor, context, properties.fillColor, properties.strokeColor,
+                               properties.strokeWidth, properties.strokeStyle, translucent, tailIndex,
+                               properties.isGradient(), properties.gradientDirection);
+}
+
 void addArrowHead(Polygon &points, Rect const &box, double headHeight, double headLength, double progress) {
     double const f = clampBetween(0.0, progress * 8.0, 1.0);
     Point const m = box.PointAtFraction(1.0, 0.5);

@@ -9,6 +9,7 @@
 #include "drawing/SavedContextState.h"
 #include "values/Pi.h"
 
+#include <vantrel/callouts/frame/BaseCallout.h>
 #include <vantrel/drawing/DrawingContext.h>
 #include <vantrel/geometry/Path.h>
 #include <vantrel/values/Polygon.h>
@@ -107,6 +108,10 @@ void drawThoughtCirclesForTails(Rect const &shape, Point const &extent, std::vec
                                 double rimFactor, DrawingContext *context, Color const &fill, Color const &stroke,
                                 double strokeWidth, std::string const &strokeStyle, bool translucent, int tailIndex,
                                 bool gradient, Point const &direction);
+// The same, in the style of the callout's properties, whole.
+void drawThoughtCirclesForTails(Rect const &shape, Point const &extent, std::vector<Point> const &tails,
+                                double rimFactor, DrawingContext *context, CalloutProperties const &properties,
+                                bool translucent, int tailIndex);
 // Appends the head of a text arrow at box's right: five points, the wings
 // opening with progress (fully from 0.125 on), the tip headLength out.
 void addArrowHead(Polygon &points, Rect const &box, double headHeight, double headLength, double progress);

@@ -80,9 +80,7 @@ void BasicThoughtBubbleTwo::drawIntoContext(DrawingContext *context, DrawOptions
         bool const capped = tails.size() > size_t(kMaxThoughtBubbleTails);
         std::vector<Point> const drawn =
             capped ? std::vector<Point>(tails.begin(), tails.begin() + kMaxThoughtBubbleTails) : std::vector<Point>();
-        drawThoughtCirclesForTails(box, s, capped ? drawn : tails, 1.2, context, properties.fillColor,
-                                   properties.strokeColor, properties.strokeWidth, properties.strokeStyle, false,
-                                   tailIndex, properties.isGradient(), properties.gradientDirection);
+        drawThoughtCirclesForTails(box, s, capped ? drawn : tails, 1.2, context, properties, false, tailIndex);
     }
     // Painted also when empty, as the design has it.
     paintPath(context, properties, cloud, box);
