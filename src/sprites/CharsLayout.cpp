@@ -176,6 +176,87 @@ bool withinOutlineRange(Rect const &reach, Point const &scale) {
     return x <= kMaxOutlineCoordinate && y <= kMaxOutlineCoordinate; // false for NaN too
 }
 
+// What a run's attributes make of its clusters: colour and decorations,
+// with the font's metrics for the decorations.
+struct RunStyle {
+    Color color;
+    int underline = 0, strikethrough = 0;
+    PangoFontMetrics *metrics = nullptr; // owned; only with a decoration
+
+    explicit RunStyle(PangoItem const *item) {
+        for (GSList *a = item->analysis.extra_attrs; a; a = a->next) {
+            PangoAttribute *attribute = static_cast<PangoAttribute *>(a->data);
+            int const type = attributeType(attribute); // registered types lie outside the enumeration
+            if (type == PANGO_ATTR_UNDERLINE)
+                underline = reinterpret_cast<PangoAttrInt *>(attribute)->value;
+            else if (type == PANGO_ATTR_STRIKETHROUGH)
+                strikethrough = reinterpret_cast<PangoAttrInt *>(attribute)->value;
+            else if (type == PANGO_ATTR_FOREGROUND)
+                color = Color::FromPango(reinterpret_cast<PangoAttrColor *>(attribute)->color);
+        }
+        if ((underline || strikethrough) && item->analysis.font)
+            metrics = pango_font_get_metrics(item->analysis.font, item->analysis.language);
+    }
+    ~RunStyle() {
+        if (metrics)
+            pango_font_metrics_unref(metrics);
+    }
+    RunStyle(RunStyle const &) = delete;
+    RunStyle &operator=(RunStyle const &) = delete;
+
+    // The underline and strikethrough under a cluster of the given width.
+    std::vector<Rect> decorations(double width) const {
+        std::vector<Rect> out;
+        if (strikethrough && metrics)
+            out.push_back(decoration(width, pango_font_metrics_get_strikethrough_position(metrics),
+                                     pango_font_metrics_get_strikethrough_thickness(metrics)));
+        if (underline && metrics)
+            out.push_back(decoration(width, pango_font_metrics_get_underline_position(metrics),
+                                     pango_font_metrics_get_underline_thickness(metrics)));
+        return out;
+    }
+};
+
+// Refills key for a cluster of the run's font and style: one key serves every
+// cluster, so that a known cluster costs a lookup and no allocation.
+void fillKey(ShapeKey &key, PangoFont *font, RunStyle const &style, PangoGlyphString const &glyphs) {
+    key.font = reinterpret_cast<uintptr_t>(font);
+    key.color = style.color.ToPacked();
+    key.flags = (style.underline ? 1 : 0) + (style.strikethrough ? 2 : 0);
+    key.glyphs.clear();
+    for (int g = 0; g < glyphs.num_glyphs; ++g) {
+        PangoGlyphInfo const &glyph = glyphs.glyphs[g];
+        key.glyphs.push_back(
+            {int(glyph.glyph), glyph.geometry.width, glyph.geometry.x_offset, glyph.geometry.y_offset});
+    }
+}
+
+// A new shape of the cluster's glyphs and decorations (width is the
+// cluster's, unscaled), or one that fits no sheet if its outline would leave
+// cairo's range at this scale.
+int outlineCluster(CharsLayoutBase &chars, cairo_t *context, PangoFont *font, RunStyle const &style,
+                   PangoGlyphString &glyphs, double width, Point const &scale, double bitmapScale) {
+    std::vector<Rect> const decorations = style.decorations(width);
+    Rect reach;
+    if (font && glyphs.num_glyphs > 0) {
+        PangoRectangle ink;
+        pango_glyph_string_extents(&glyphs, font, &ink, nullptr);
+        reach = Rect(pango_units_to_double(ink.x), pango_units_to_double(ink.y),
+                     pango_units_to_double(ink.x + ink.width), pango_units_to_double(ink.y + ink.height));
+    }
+    for (Rect const &d : decorations)
+        reach = Rect(std::fmin(reach.Left(), d.Left()), std::fmin(reach.Top(), d.Top()),
+                     std::fmax(reach.Right(), d.Right()), std::fmax(reach.Bottom(), d.Bottom()));
+    if (!withinOutlineRange(reach, scale))
+        return chars.addOversizedShape(style.color, scale * bitmapScale);
+    cairo_new_path(context);
+    if (font && glyphs.num_glyphs > 0)
+        pango_cairo_glyph_string_path(context, font, &glyphs);
+    for (Rect const &d : decorations)
+        cairo_rectangle(context, d.Left(), d.Top(), d.Width(), d.Height());
+    return chars.addShape(context, style.color, scale * bitmapScale);
+}
+
 } // namespace
 
 bool buildCharsLayout(CharsLayoutBase &chars, cairo_t *context, PangoLayout *layout, Point const &scale,
@@ -230,22 +311,8 @@ bool buildCharsLayout(CharsLayoutBase &chars, cairo_t *context, PangoLayout *lay
         for (GSList *l = line ? line->runs : nullptr; l; l = l->next) {
             PangoGlyphItem *run = static_cast<PangoGlyphItem *>(l->data);
             int const base = characterAt(run->item->offset);
-            int underline = 0, strikethrough = 0;
-            Color color;
-            for (GSList *a = run->item->analysis.extra_attrs; a; a = a->next) {
-                PangoAttribute *attribute = static_cast<PangoAttribute *>(a->data);
-                int const type = attributeType(attribute); // registered types lie outside the enumeration
-                if (type == PANGO_ATTR_UNDERLINE)
-                    underline = reinterpret_cast<PangoAttrInt *>(attribute)->value;
-                else if (type == PANGO_ATTR_STRIKETHROUGH)
-                    strikethrough = reinterpret_cast<PangoAttrInt *>(attribute)->value;
-                else if (type == PANGO_ATTR_FOREGROUND)
-                    color = Color::FromPango(reinterpret_cast<PangoAttrColor *>(attribute)->color);
-            }
             PangoFont *font = run->item->analysis.font;
-            PangoFontMetrics *metrics = (underline || strikethrough) && font
-                                            ? pango_font_get_metrics(font, run->item->analysis.language)
-                                            : nullptr;
+            RunStyle const style(run->item);
             PangoGlyphItemIter cluster;
             for (bool more = pango_glyph_item_iter_init_start(&cluster, run, text); more;
                  more = pango_glyph_item_iter_next_cluster(&cluster)) {
@@ -260,65 +327,25 @@ bool buildCharsLayout(CharsLayoutBase &chars, cairo_t *context, PangoLayout *lay
                 Rect const rect = rectOf[size_t(character)];
                 if (startsWithSpace(text, cluster.start_index, cluster.end_index) && !(rect.Width() > 0))
                     continue;
-                PangoGlyphString view;
+                PangoGlyphString view; // the cluster's glyphs, not copied
                 view.num_glyphs = count;
                 view.glyphs = run->glyphs->glyphs + first;
                 view.log_clusters = run->glyphs->log_clusters + first;
                 view.space = count;
-                // One key refilled for every cluster: a known cluster costs a lookup, no allocation.
-                key.font = reinterpret_cast<uintptr_t>(font);
-                key.color = color.ToPacked();
-                key.flags = (underline ? 1 : 0) + (strikethrough ? 2 : 0);
-                key.glyphs.clear();
-                for (int g = 0; g < count; ++g) {
-                    PangoGlyphInfo const &glyph = view.glyphs[g];
-                    key.glyphs.push_back(
-                        {int(glyph.glyph), glyph.geometry.width, glyph.geometry.x_offset, glyph.geometry.y_offset});
-                }
+                fillKey(key, font, style, view);
                 auto known = shapeOfKey.find(key);
-                int shape = 0;
-                if (known != shapeOfKey.end()) {
-                    shape = known->second;
-                } else {
-                    double const width = rect.Width() / scale.x;
-                    std::vector<Rect> decorations;
-                    if (strikethrough && metrics)
-                        decorations.push_back(decoration(width, pango_font_metrics_get_strikethrough_position(metrics),
-                                                         pango_font_metrics_get_strikethrough_thickness(metrics)));
-                    if (underline && metrics)
-                        decorations.push_back(decoration(width, pango_font_metrics_get_underline_position(metrics),
-                                                         pango_font_metrics_get_underline_thickness(metrics)));
-                    Rect reach;
-                    if (font && count > 0) {
-                        PangoRectangle ink;
-                        pango_glyph_string_extents(&view, font, &ink, nullptr);
-                        reach =
-                            Rect(pango_units_to_double(ink.x), pango_units_to_double(ink.y),
-                                 pango_units_to_double(ink.x + ink.width), pango_units_to_double(ink.y + ink.height));
-                    }
-                    for (Rect const &d : decorations)
-                        reach = Rect(std::fmin(reach.Left(), d.Left()), std::fmin(reach.Top(), d.Top()),
-                                     std::fmax(reach.Right(), d.Right()), std::fmax(reach.Bottom(), d.Bottom()));
-                    if (!withinOutlineRange(reach, scale)) {
-                        shape = chars.addOversizedShape(color, scale * bitmapScale);
-                    } else {
-                        cairo_new_path(context);
-                        if (font && count > 0)
-                            pango_cairo_glyph_string_path(context, font, &view);
-                        for (Rect const &d : decorations)
-                            cairo_rectangle(context, d.Left(), d.Top(), d.Width(), d.Height());
-                        shape = chars.addShape(context, color, scale * bitmapScale);
-                    }
-                    shapeOfKey.emplace(key, shape);
-                }
+                int const shape = known != shapeOfKey.end()
+                                      ? known->second
+                                      : shapeOfKey
+                                            .emplace(key, outlineCluster(chars, context, font, style, view,
+                                                                         rect.Width() / scale.x, scale, bitmapScale))
+                                            .first->second;
                 if (shape < 0)
                     continue; // no outline, no item
                 chars.items.push_back(
                     {shape, rect, wordOf[size_t(character)], lineIndex, Point(rect.Left(), baselineY)});
                 topmost = std::min(topmost, baselineY + chars.shapeRect(shape).Top() * scale.y);
             }
-            if (metrics)
-                pango_font_metrics_unref(metrics);
         }
         chars.lines.push_back({lineRect, baselineY, topmost, firstItem, int(chars.items.size()) - firstItem});
         ++lineIndex;
