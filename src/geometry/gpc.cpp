@@ -671,6 +671,383 @@ void writeResult(polygon_node *out, gpc_polygon *result) {
     }
 }
 
+// The sweep's state from one scanbeam to the next; its four steps work on
+// the scanbeam from yb to yt.
+struct Sweep {
+    gpc_op op;
+    Pools &pools;
+    edge_node *aet;
+    polygon_node *out;
+    it_node *it;
+    int parity[2];
+    lmt_node *localMin;
+    double yb = 0, yt = 0, dy = 0;
+
+    void joinNewBounds();
+    void markBundles();
+    void boundaryStep();
+    void endingStep();
+    void crossingStep();
+    void closingStep();
+};
+
+// New bounds of the local minimum at this boundary join the table.
+void Sweep::joinNewBounds() {
+    if (localMin && localMin->y == yb) {
+        edge_node *added = nullptr;
+        for (edge_node *edge = localMin->first_bound; edge; edge = edge->next_bound) {
+            addEdgeToAet(&aet, edge, added);
+            added = edge;
+        }
+        localMin = localMin->next;
+    }
+}
+
+// Bundles: coincident edges above the boundary act as one.
+void Sweep::markBundles() {
+    if (aet) {
+        edge_node *e0 = aet;
+        for (edge_node *e = aet; e; e = e->next) {
+            e->bundle[ABOVE][e->type] = e->top.y != yb;
+            e->bundle[ABOVE][!e->type] = false;
+            e->bstate[ABOVE] = UNBUNDLED;
+            if (e == aet || !e->bundle[ABOVE][e->type])
+                continue;
+            if (e0->top.y != yb && coincide(e0, e, yt)) {
+                e->bundle[ABOVE][e->type] ^= e0->bundle[ABOVE][e->type];
+                e->bundle[ABOVE][!e->type] = e0->bundle[ABOVE][!e->type];
+                e->bstate[ABOVE] = BUNDLE_HEAD;
+                e0->bundle[ABOVE][CLIP] = false;
+                e0->bundle[ABOVE][SUBJ] = false;
+                e0->bstate[ABOVE] = BUNDLE_TAIL;
+            }
+            e0 = e;
+        }
+    }
+}
+
+// Boundary step: new bounds join the table, coincident edges bundle, and each
+// contributing bundle adds to or closes the output contours.
+void Sweep::boundaryStep() {
+    joinNewBounds();
+    markBundles();
+    double px = -DBL_MAX;
+    int horiz[2] = {NH, NH};
+    polygon_node *cf = nullptr;
+    for (edge_node *edge = aet; edge; edge = edge->next) {
+        int exists[2];
+        for (int x = 0; x < 2; ++x)
+            exists[x] = edge->bundle[ABOVE][x] + 2 * edge->bundle[BELOW][x];
+        if (!exists[CLIP] && !exists[SUBJ])
+            continue;
+
+        edge->bside[CLIP] = parity[CLIP];
+        edge->bside[SUBJ] = parity[SUBJ];
+
+        int q[4][2]; // br, bl, tr, tl per operand
+        for (int x = 0; x < 2; ++x) {
+            int p = parity[x], h = horiz[x] != NH;
+            q[0][x] = p;
+            q[1][x] = p ^ edge->bundle[ABOVE][x];
+            q[2][x] = p ^ h;
+            q[3][x] = p ^ h ^ edge->bundle[BELOW][x];
+        }
+        bool hClip = horiz[CLIP] != NH, hSubj = horiz[SUBJ] != NH;
+        bool bothSame = exists[CLIP] && exists[SUBJ] && parity[CLIP] == parity[SUBJ];
+        bool contributing;
+        if (op == GPC_XOR)
+            contributing = exists[CLIP] || exists[SUBJ];
+        else if (op == GPC_UNION)
+            contributing =
+                (exists[CLIP] && (!parity[SUBJ] || hSubj)) || (exists[SUBJ] && (!parity[CLIP] || hClip)) || bothSame;
+        else
+            contributing =
+                (exists[CLIP] && (parity[SUBJ] || hSubj)) || (exists[SUBJ] && (parity[CLIP] || hClip)) || bothSame;
+        int br = combine(op, q[0][CLIP], q[0][SUBJ]);
+        int bl = combine(op, q[1][CLIP], q[1][SUBJ]);
+        int tr = combine(op, q[2][CLIP], q[2][SUBJ]);
+        int tl = combine(op, q[3][CLIP], q[3][SUBJ]);
+
+        parity[CLIP] ^= edge->bundle[ABOVE][CLIP];
+        parity[SUBJ] ^= edge->bundle[ABOVE][SUBJ];
+        for (int x = 0; x < 2; ++x)
+            if (exists[x])
+                horiz[x] = next_h_state[horiz[x]][(exists[x] - 1) * 2 + parity[x]];
+
+        if (!contributing)
+            continue;
+        double xb = edge->xb;
+        bool moved = xb != px;
+        switch (tr + 2 * tl + 4 * br + 8 * bl) {
+        case EMN:
+        case IMN:
+            addLocalMin(pools, &out, edge, xb, yb);
+            px = xb;
+            cf = edge->outp[ABOVE];
+            break;
+        case ERI:
+            if (moved) {
+                addRight(pools, cf, xb, yb);
+                px = xb;
+            }
+            edge->outp[ABOVE] = cf;
+            cf = nullptr;
+            break;
+        case ELI:
+            addLeft(pools, edge->outp[BELOW], xb, yb);
+            px = xb;
+            cf = edge->outp[BELOW];
+            break;
+        case EMX:
+            if (moved) {
+                addLeft(pools, cf, xb, yb);
+                px = xb;
+            }
+            mergeRight(cf, edge->outp[BELOW]);
+            cf = nullptr;
+            break;
+        case ILI:
+            if (moved) {
+                addLeft(pools, cf, xb, yb);
+                px = xb;
+            }
+            edge->outp[ABOVE] = cf;
+            cf = nullptr;
+            break;
+        case IRI:
+            addRight(pools, edge->outp[BELOW], xb, yb);
+            px = xb;
+            cf = edge->outp[BELOW];
+            edge->outp[BELOW] = nullptr;
+            break;
+        case IMX:
+            if (moved) {
+                addRight(pools, cf, xb, yb);
+                px = xb;
+            }
+            mergeLeft(cf, edge->outp[BELOW]);
+            cf = nullptr;
+            edge->outp[BELOW] = nullptr;
+            break;
+        case IMM:
+            if (moved) {
+                addRight(pools, cf, xb, yb);
+                px = xb;
+            }
+            mergeLeft(cf, edge->outp[BELOW]);
+            edge->outp[BELOW] = nullptr;
+            addLocalMin(pools, &out, edge, xb, yb);
+            cf = edge->outp[ABOVE];
+            break;
+        case EMM:
+            if (moved) {
+                addLeft(pools, cf, xb, yb);
+                px = xb;
+            }
+            mergeRight(cf, edge->outp[BELOW]);
+            edge->outp[BELOW] = nullptr;
+            addLocalMin(pools, &out, edge, xb, yb);
+            cf = edge->outp[ABOVE];
+            break;
+        case LED:
+            if (edge->bot.y == yb)
+                addLeft(pools, edge->outp[BELOW], xb, yb);
+            edge->outp[ABOVE] = edge->outp[BELOW];
+            px = xb;
+            break;
+        case RED:
+            if (edge->bot.y == yb)
+                addRight(pools, edge->outp[BELOW], xb, yb);
+            edge->outp[ABOVE] = edge->outp[BELOW];
+            px = xb;
+            break;
+        default:
+            break;
+        }
+    }
+}
+
+// Ending step: edges that end here leave; the others get their x at the top.
+void Sweep::endingStep() {
+    for (edge_node *edge = aet; edge; edge = edge->next) {
+        if (edge->top.y == yb) {
+            edge_node *prev = edge->prev, *next = edge->next;
+            if (prev)
+                prev->next = next;
+            else
+                aet = next;
+            if (next)
+                next->prev = prev;
+            // A bundle head that leaves hands its contour to its tail.
+            if (edge->bstate[BELOW] == BUNDLE_HEAD && prev && prev->bstate[BELOW] == BUNDLE_TAIL) {
+                prev->outp[BELOW] = edge->outp[BELOW];
+                prev->bstate[BELOW] = UNBUNDLED;
+                if (prev->prev && prev->prev->bstate[BELOW] == BUNDLE_TAIL)
+                    prev->bstate[BELOW] = BUNDLE_HEAD;
+            }
+        } else {
+            edge->xt = xTop(edge, yt);
+        }
+    }
+}
+
+// Crossing step: crossings inside the scanbeam, lowest first.
+void Sweep::crossingStep() {
+    buildIntersectionTable(pools, &it, aet, dy);
+    for (it_node *node = it; node; node = node->next) {
+        if (!crossingInOrder(node->ie[0], node->ie[1]) && !bringForwardReadyCrossing(node))
+            continue;
+        edge_node *e0 = node->ie[0], *e1 = node->ie[1];
+        bool above0 = e0->bundle[ABOVE][CLIP] || e0->bundle[ABOVE][SUBJ];
+        bool above1 = e1->bundle[ABOVE][CLIP] || e1->bundle[ABOVE][SUBJ];
+        if (above0 && above1) {
+            polygon_node *p = e0->outp[ABOVE], *q = e1->outp[ABOVE];
+            double ix = node->point.x, iy = node->point.y + yb;
+            int in[2];
+            for (int x = 0; x < 2; ++x)
+                in[x] = (e0->bundle[ABOVE][x] && !e0->bside[x]) || (e1->bundle[ABOVE][x] && e1->bside[x]) ||
+                        (!e0->bundle[ABOVE][x] && !e1->bundle[ABOVE][x] && e0->bside[x] && e1->bside[x]);
+            auto quadrant = [&](int with0, int with1) {
+                int c = in[CLIP] ^ (with1 ? e1->bundle[ABOVE][CLIP] : 0) ^ (with0 ? e0->bundle[ABOVE][CLIP] : 0);
+                int s = in[SUBJ] ^ (with1 ? e1->bundle[ABOVE][SUBJ] : 0) ^ (with0 ? e0->bundle[ABOVE][SUBJ] : 0);
+                return combine(op, c, s);
+            };
+            int tr = quadrant(0, 0), tl = quadrant(0, 1), br = quadrant(1, 0), bl = quadrant(1, 1);
+            switch (tr + 2 * tl + 4 * br + 8 * bl) {
+            case EMN:
+            case IMN:
+                addLocalMin(pools, &out, e0, ix, iy);
+                e1->outp[ABOVE] = e0->outp[ABOVE];
+                break;
+            case ERI:
+                if (p) {
+                    addRight(pools, p, ix, iy);
+                    e1->outp[ABOVE] = p;
+                    e0->outp[ABOVE] = nullptr;
+                }
+                break;
+            case ELI:
+                if (q) {
+                    addLeft(pools, q, ix, iy);
+                    e0->outp[ABOVE] = q;
+                    e1->outp[ABOVE] = nullptr;
+                }
+                break;
+            case EMX:
+                if (p && q) {
+                    addLeft(pools, p, ix, iy);
+                    mergeRight(p, q);
+                    e0->outp[ABOVE] = nullptr;
+                    e1->outp[ABOVE] = nullptr;
+                }
+                break;
+            case ILI:
+                if (p) {
+                    addLeft(pools, p, ix, iy);
+                    e1->outp[ABOVE] = p;
+                    e0->outp[ABOVE] = nullptr;
+                }
+                break;
+            case IRI:
+                if (q) {
+                    addRight(pools, q, ix, iy);
+                    e0->outp[ABOVE] = q;
+                    e1->outp[ABOVE] = nullptr;
+                }
+                break;
+            case IMX:
+                if (p && q) {
+                    addRight(pools, p, ix, iy);
+                    mergeLeft(p, q);
+                    e0->outp[ABOVE] = nullptr;
+                    e1->outp[ABOVE] = nullptr;
+                }
+                break;
+            case IMM:
+                if (p && q) {
+                    addRight(pools, p, ix, iy);
+                    mergeLeft(p, q);
+                    addLocalMin(pools, &out, e0, ix, iy);
+                    e1->outp[ABOVE] = e0->outp[ABOVE];
+                }
+                break;
+            case EMM:
+                if (p && q) {
+                    addLeft(pools, p, ix, iy);
+                    mergeRight(p, q);
+                    addLocalMin(pools, &out, e0, ix, iy);
+                    e1->outp[ABOVE] = e0->outp[ABOVE];
+                }
+                break;
+            default:
+                break;
+            }
+        }
+
+        // The bundles change sides as they cross.
+        for (int x = 0; x < 2; ++x) {
+            if (e0->bundle[ABOVE][x])
+                e1->bside[x] = !e1->bside[x];
+            if (e1->bundle[ABOVE][x])
+                e0->bside[x] = !e0->bside[x];
+        }
+
+        // Swap the bundles in the table: e0 with its tails moves behind e1.
+        edge_node *prev = e0->prev;
+        edge_node *next = e1->next;
+        if (next)
+            next->prev = e0;
+        if (e0->bstate[ABOVE] == BUNDLE_HEAD) {
+            while (prev) {
+                prev = prev->prev;
+                if (!prev || prev->bstate[ABOVE] != BUNDLE_TAIL)
+                    break;
+            }
+        }
+        if (!prev) {
+            aet->prev = e1;
+            e1->next = aet;
+            aet = e0->next;
+        } else {
+            prev->next->prev = e1;
+            e1->next = prev->next;
+            prev->next = e0->next;
+        }
+        e0->next->prev = prev;
+        e1->next->prev = e1;
+        e0->next = next;
+    }
+}
+
+// Closing step: bounds continue with their next edge, and the values
+// above this boundary become those below the next.
+void Sweep::closingStep() {
+    for (edge_node *edge = aet, *next = nullptr; edge; edge = next) {
+        next = edge->next;
+        edge_node *succ = edge->succ;
+        edge_node *target = edge;
+        if (edge->top.y == yt && succ) {
+            target = succ;
+            edge_node *prev = edge->prev;
+            if (prev)
+                prev->next = succ;
+            else
+                aet = succ;
+            if (next)
+                next->prev = succ;
+            succ->prev = prev;
+            succ->next = next;
+        } else {
+            edge->xb = edge->xt;
+        }
+        target->outp[BELOW] = edge->outp[ABOVE];
+        target->bstate[BELOW] = edge->bstate[ABOVE];
+        target->bundle[BELOW][CLIP] = edge->bundle[ABOVE][CLIP];
+        target->bundle[BELOW][SUBJ] = edge->bundle[ABOVE][SUBJ];
+        edge->outp[ABOVE] = nullptr;
+    }
+}
+
 } // namespace
 
 void gpc_free_polygon(gpc_polygon *p) {
@@ -730,370 +1107,27 @@ void gpc_polygon_clip(gpc_op op, gpc_polygon *subject, gpc_polygon *clip, gpc_po
     if (result == subject || result == clip)
         gpc_free_polygon(result);
 
-    // Phase 5: the sweep.
+    // Phase 5: the sweep, scanbeam by scanbeam.
     Pools pools;
-    edge_node *aet = nullptr;
-    polygon_node *out = nullptr;
-    it_node *it = nullptr;
-    int parity[2] = {op == GPC_DIFF ? RIGHT : LEFT, LEFT};
-    lmt_node *localMin = lmt;
+    Sweep sweep{op, pools, nullptr, nullptr, nullptr, {op == GPC_DIFF ? RIGHT : LEFT, LEFT}, lmt};
     size_t const beams = heights.size();
     size_t scanbeam = 0;
-    double yb = 0, yt = 0, dy = 0;
-
     while (scanbeam < beams) {
-        yb = heights[scanbeam++];
+        sweep.yb = heights[scanbeam++];
         if (scanbeam < beams) {
-            yt = heights[scanbeam];
-            dy = yt - yb;
+            sweep.yt = heights[scanbeam];
+            sweep.dy = sweep.yt - sweep.yb;
         }
-
-        // Boundary step: new bounds join the table.
-        if (localMin && localMin->y == yb) {
-            edge_node *added = nullptr;
-            for (edge_node *edge = localMin->first_bound; edge; edge = edge->next_bound) {
-                addEdgeToAet(&aet, edge, added);
-                added = edge;
-            }
-            localMin = localMin->next;
-        }
-        double px = -DBL_MAX;
-
-        // Bundles: coincident edges above the boundary act as one.
-        if (aet) {
-            edge_node *e0 = aet;
-            for (edge_node *e = aet; e; e = e->next) {
-                e->bundle[ABOVE][e->type] = e->top.y != yb;
-                e->bundle[ABOVE][!e->type] = false;
-                e->bstate[ABOVE] = UNBUNDLED;
-                if (e == aet || !e->bundle[ABOVE][e->type])
-                    continue;
-                if (e0->top.y != yb && coincide(e0, e, yt)) {
-                    e->bundle[ABOVE][e->type] ^= e0->bundle[ABOVE][e->type];
-                    e->bundle[ABOVE][!e->type] = e0->bundle[ABOVE][!e->type];
-                    e->bstate[ABOVE] = BUNDLE_HEAD;
-                    e0->bundle[ABOVE][CLIP] = false;
-                    e0->bundle[ABOVE][SUBJ] = false;
-                    e0->bstate[ABOVE] = BUNDLE_TAIL;
-                }
-                e0 = e;
-            }
-        }
-
-        int horiz[2] = {NH, NH};
-        polygon_node *cf = nullptr;
-        for (edge_node *edge = aet; edge; edge = edge->next) {
-            int exists[2];
-            for (int x = 0; x < 2; ++x)
-                exists[x] = edge->bundle[ABOVE][x] + 2 * edge->bundle[BELOW][x];
-            if (!exists[CLIP] && !exists[SUBJ])
-                continue;
-
-            edge->bside[CLIP] = parity[CLIP];
-            edge->bside[SUBJ] = parity[SUBJ];
-
-            int q[4][2]; // br, bl, tr, tl per operand
-            for (int x = 0; x < 2; ++x) {
-                int p = parity[x], h = horiz[x] != NH;
-                q[0][x] = p;
-                q[1][x] = p ^ edge->bundle[ABOVE][x];
-                q[2][x] = p ^ h;
-                q[3][x] = p ^ h ^ edge->bundle[BELOW][x];
-            }
-            bool hClip = horiz[CLIP] != NH, hSubj = horiz[SUBJ] != NH;
-            bool bothSame = exists[CLIP] && exists[SUBJ] && parity[CLIP] == parity[SUBJ];
-            bool contributing;
-            if (op == GPC_XOR)
-                contributing = exists[CLIP] || exists[SUBJ];
-            else if (op == GPC_UNION)
-                contributing = (exists[CLIP] && (!parity[SUBJ] || hSubj)) ||
-                               (exists[SUBJ] && (!parity[CLIP] || hClip)) || bothSame;
-            else
-                contributing =
-                    (exists[CLIP] && (parity[SUBJ] || hSubj)) || (exists[SUBJ] && (parity[CLIP] || hClip)) || bothSame;
-            int br = combine(op, q[0][CLIP], q[0][SUBJ]);
-            int bl = combine(op, q[1][CLIP], q[1][SUBJ]);
-            int tr = combine(op, q[2][CLIP], q[2][SUBJ]);
-            int tl = combine(op, q[3][CLIP], q[3][SUBJ]);
-
-            parity[CLIP] ^= edge->bundle[ABOVE][CLIP];
-            parity[SUBJ] ^= edge->bundle[ABOVE][SUBJ];
-            for (int x = 0; x < 2; ++x)
-                if (exists[x])
-                    horiz[x] = next_h_state[horiz[x]][(exists[x] - 1) * 2 + parity[x]];
-
-            if (!contributing)
-                continue;
-            double xb = edge->xb;
-            bool moved = xb != px;
-            switch (tr + 2 * tl + 4 * br + 8 * bl) {
-            case EMN:
-            case IMN:
-                addLocalMin(pools, &out, edge, xb, yb);
-                px = xb;
-                cf = edge->outp[ABOVE];
-                break;
-            case ERI:
-                if (moved) {
-                    addRight(pools, cf, xb, yb);
-                    px = xb;
-                }
-                edge->outp[ABOVE] = cf;
-                cf = nullptr;
-                break;
-            case ELI:
-                addLeft(pools, edge->outp[BELOW], xb, yb);
-                px = xb;
-                cf = edge->outp[BELOW];
-                break;
-            case EMX:
-                if (moved) {
-                    addLeft(pools, cf, xb, yb);
-                    px = xb;
-                }
-                mergeRight(cf, edge->outp[BELOW]);
-                cf = nullptr;
-                break;
-            case ILI:
-                if (moved) {
-                    addLeft(pools, cf, xb, yb);
-                    px = xb;
-                }
-                edge->outp[ABOVE] = cf;
-                cf = nullptr;
-                break;
-            case IRI:
-                addRight(pools, edge->outp[BELOW], xb, yb);
-                px = xb;
-                cf = edge->outp[BELOW];
-                edge->outp[BELOW] = nullptr;
-                break;
-            case IMX:
-                if (moved) {
-                    addRight(pools, cf, xb, yb);
-                    px = xb;
-                }
-                mergeLeft(cf, edge->outp[BELOW]);
-                cf = nullptr;
-                edge->outp[BELOW] = nullptr;
-                break;
-            case IMM:
-                if (moved) {
-                    addRight(pools, cf, xb, yb);
-                    px = xb;
-                }
-                mergeLeft(cf, edge->outp[BELOW]);
-                edge->outp[BELOW] = nullptr;
-                addLocalMin(pools, &out, edge, xb, yb);
-                cf = edge->outp[ABOVE];
-                break;
-            case EMM:
-                if (moved) {
-                    addLeft(pools, cf, xb, yb);
-                    px = xb;
-                }
-                mergeRight(cf, edge->outp[BELOW]);
-                edge->outp[BELOW] = nullptr;
-                addLocalMin(pools, &out, edge, xb, yb);
-                cf = edge->outp[ABOVE];
-                break;
-            case LED:
-                if (edge->bot.y == yb)
-                    addLeft(pools, edge->outp[BELOW], xb, yb);
-                edge->outp[ABOVE] = edge->outp[BELOW];
-                px = xb;
-                break;
-            case RED:
-                if (edge->bot.y == yb)
-                    addRight(pools, edge->outp[BELOW], xb, yb);
-                edge->outp[ABOVE] = edge->outp[BELOW];
-                px = xb;
-                break;
-            default:
-                break;
-            }
-        }
-
-        // Ending step: edges that end here leave; the others get their x at the top.
-        for (edge_node *edge = aet; edge; edge = edge->next) {
-            if (edge->top.y == yb) {
-                edge_node *prev = edge->prev, *next = edge->next;
-                if (prev)
-                    prev->next = next;
-                else
-                    aet = next;
-                if (next)
-                    next->prev = prev;
-                // A bundle head that leaves hands its contour to its tail.
-                if (edge->bstate[BELOW] == BUNDLE_HEAD && prev && prev->bstate[BELOW] == BUNDLE_TAIL) {
-                    prev->outp[BELOW] = edge->outp[BELOW];
-                    prev->bstate[BELOW] = UNBUNDLED;
-                    if (prev->prev && prev->prev->bstate[BELOW] == BUNDLE_TAIL)
-                        prev->bstate[BELOW] = BUNDLE_HEAD;
-                }
-            } else {
-                edge->xt = xTop(edge, yt);
-            }
-        }
+        sweep.boundaryStep();
+        sweep.endingStep();
         if (scanbeam >= beams)
             break;
-
-        // Crossing step: crossings inside the scanbeam, lowest first.
-        buildIntersectionTable(pools, &it, aet, dy);
-        for (it_node *node = it; node; node = node->next) {
-            if (!crossingInOrder(node->ie[0], node->ie[1]) && !bringForwardReadyCrossing(node))
-                continue;
-            edge_node *e0 = node->ie[0], *e1 = node->ie[1];
-            bool above0 = e0->bundle[ABOVE][CLIP] || e0->bundle[ABOVE][SUBJ];
-            bool above1 = e1->bundle[ABOVE][CLIP] || e1->bundle[ABOVE][SUBJ];
-            if (above0 && above1) {
-                polygon_node *p = e0->outp[ABOVE], *q = e1->outp[ABOVE];
-                double ix = node->point.x, iy = node->point.y + yb;
-                int in[2];
-                for (int x = 0; x < 2; ++x)
-                    in[x] = (e0->bundle[ABOVE][x] && !e0->bside[x]) || (e1->bundle[ABOVE][x] && e1->bside[x]) ||
-                            (!e0->bundle[ABOVE][x] && !e1->bundle[ABOVE][x] && e0->bside[x] && e1->bside[x]);
-                auto quadrant = [&](int with0, int with1) {
-                    int c = in[CLIP] ^ (with1 ? e1->bundle[ABOVE][CLIP] : 0) ^ (with0 ? e0->bundle[ABOVE][CLIP] : 0);
-                    int s = in[SUBJ] ^ (with1 ? e1->bundle[ABOVE][SUBJ] : 0) ^ (with0 ? e0->bundle[ABOVE][SUBJ] : 0);
-                    return combine(op, c, s);
-                };
-                int tr = quadrant(0, 0), tl = quadrant(0, 1), br = quadrant(1, 0), bl = quadrant(1, 1);
-                switch (tr + 2 * tl + 4 * br + 8 * bl) {
-                case EMN:
-                case IMN:
-                    addLocalMin(pools, &out, e0, ix, iy);
-                    e1->outp[ABOVE] = e0->outp[ABOVE];
-                    break;
-                case ERI:
-                    if (p) {
-                        addRight(pools, p, ix, iy);
-                        e1->outp[ABOVE] = p;
-                        e0->outp[ABOVE] = nullptr;
-                    }
-                    break;
-                case ELI:
-                    if (q) {
-                        addLeft(pools, q, ix, iy);
-                        e0->outp[ABOVE] = q;
-                        e1->outp[ABOVE] = nullptr;
-                    }
-                    break;
-                case EMX:
-                    if (p && q) {
-                        addLeft(pools, p, ix, iy);
-                        mergeRight(p, q);
-                        e0->outp[ABOVE] = nullptr;
-                        e1->outp[ABOVE] = nullptr;
-                    }
-                    break;
-                case ILI:
-                    if (p) {
-                        addLeft(pools, p, ix, iy);
-                        e1->outp[ABOVE] = p;
-                        e0->outp[ABOVE] = nullptr;
-                    }
-                    break;
-                case IRI:
-                    if (q) {
-                        addRight(pools, q, ix, iy);
-                        e0->outp[ABOVE] = q;
-                        e1->outp[ABOVE] = nullptr;
-                    }
-                    break;
-                case IMX:
-                    if (p && q) {
-                        addRight(pools, p, ix, iy);
-                        mergeLeft(p, q);
-                        e0->outp[ABOVE] = nullptr;
-                        e1->outp[ABOVE] = nullptr;
-                    }
-                    break;
-                case IMM:
-                    if (p && q) {
-                        addRight(pools, p, ix, iy);
-                        mergeLeft(p, q);
-                        addLocalMin(pools, &out, e0, ix, iy);
-                        e1->outp[ABOVE] = e0->outp[ABOVE];
-                    }
-                    break;
-                case EMM:
-                    if (p && q) {
-                        addLeft(pools, p, ix, iy);
-                        mergeRight(p, q);
-                        addLocalMin(pools, &out, e0, ix, iy);
-                        e1->outp[ABOVE] = e0->outp[ABOVE];
-                    }
-                    break;
-                default:
-                    break;
-                }
-            }
-
-            // The bundles change sides as they cross.
-            for (int x = 0; x < 2; ++x) {
-                if (e0->bundle[ABOVE][x])
-                    e1->bside[x] = !e1->bside[x];
-                if (e1->bundle[ABOVE][x])
-                    e0->bside[x] = !e0->bside[x];
-            }
-
-            // Swap the bundles in the table: e0 with its tails moves behind e1.
-            edge_node *prev = e0->prev;
-            edge_node *next = e1->next;
-            if (next)
-                next->prev = e0;
-            if (e0->bstate[ABOVE] == BUNDLE_HEAD) {
-                while (prev) {
-                    prev = prev->prev;
-                    if (!prev || prev->bstate[ABOVE] != BUNDLE_TAIL)
-                        break;
-                }
-            }
-            if (!prev) {
-                aet->prev = e1;
-                e1->next = aet;
-                aet = e0->next;
-            } else {
-                prev->next->prev = e1;
-                e1->next = prev->next;
-                prev->next = e0->next;
-            }
-            e0->next->prev = prev;
-            e1->next->prev = e1;
-            e0->next = next;
-        }
-
-        // Closing step: bounds continue with their next edge, and the values
-        // above this boundary become those below the next.
-        for (edge_node *edge = aet, *next = nullptr; edge; edge = next) {
-            next = edge->next;
-            edge_node *succ = edge->succ;
-            edge_node *target = edge;
-            if (edge->top.y == yt && succ) {
-                target = succ;
-                edge_node *prev = edge->prev;
-                if (prev)
-                    prev->next = succ;
-                else
-                    aet = succ;
-                if (next)
-                    next->prev = succ;
-                succ->prev = prev;
-                succ->next = next;
-            } else {
-                edge->xb = edge->xt;
-            }
-            target->outp[BELOW] = edge->outp[ABOVE];
-            target->bstate[BELOW] = edge->bstate[ABOVE];
-            target->bundle[BELOW][CLIP] = edge->bundle[ABOVE][CLIP];
-            target->bundle[BELOW][SUBJ] = edge->bundle[ABOVE][SUBJ];
-            edge->outp[ABOVE] = nullptr;
-        }
+        sweep.crossingStep();
+        sweep.closingStep();
     }
 
     // Phase 6: the result.
-    writeResult(out, result);
+    writeResult(sweep.out, result);
     freeTables();
 }
 
