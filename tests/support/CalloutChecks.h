@@ -1,11 +1,13 @@
 // Checks shared by the callout suites.
 #pragma once
 
+#include "support/LoggingContext.h"
 #include "support/PixelProbe.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 namespace VantrelTest {
 
@@ -23,6 +25,33 @@ inline void expectBoundsMatchInk(Vantrel::BaseCallout const &callout, std::strin
     EXPECT_NEAR(bounds.Top(), ink.Top(), 1.0) << what;
     EXPECT_NEAR(bounds.Right(), ink.Right(), 1.0) << what;
     EXPECT_NEAR(bounds.Bottom(), ink.Bottom(), 1.0) << what;
+}
+
+// The style the callout family tests draw in: a blue fill, a dark ink.
+Vantrel::Color const kFill(0.3f, 0.6f, 0.95f);
+Vantrel::Color const kInk(0.1f, 0.1f, 0.3f);
+
+// A callout's text: the text in box at size points (no family), as the
+// factories take it.
+struct CalloutText {
+    Vantrel::TextCalloutProperties properties;
+    Vantrel::TextAttributeList attributes;
+};
+inline CalloutText calloutText(std::string const &text, Vantrel::Rect const &box, double size) {
+    CalloutText t;
+    t.properties.text = text;
+    t.properties.textRect = box;
+    t.attributes.addFontSizeAttribute(Vantrel::Range(0, int(text.size())), size);
+    return t;
+}
+
+// The drawing calls a callout makes, one line each (LoggingContext).
+inline std::vector<std::string>
+drawingCalls(Vantrel::BaseCallout const &callout,
+             Vantrel::BaseCallout::DrawOptions options = Vantrel::BaseCallout::DrawOptionAll) {
+    LoggingContext log;
+    callout.drawIntoContext(&log, options, Vantrel::Rect(), -1, nullptr);
+    return log.calls;
 }
 
 } // namespace VantrelTest

@@ -18,8 +18,8 @@ using VantrelTest::expectBoundsMatchInk;
 namespace {
 
 Rect const kBox(-50, -10, 50, 10);
-Color const kFill(0.3f, 0.6f, 0.95f);
-Color const kInk(0.1f, 0.1f, 0.3f);
+using VantrelTest::kFill;
+using VantrelTest::kInk;
 
 using Factory = BaseCallout *(*)(Presets::Theme, Color const &, std::string const &, Point const &, Color const &,
                                  double, std::string const &, Rect const &, double, TextCalloutProperties const &,
@@ -42,20 +42,12 @@ Arrow const kAll[] = {
 
 std::unique_ptr<BaseCallout> make(Arrow const &a, double strokeWidth = 0, Rect box = kBox, double progress = 1.0,
                                   std::string const &text = "") {
-    TextCalloutProperties p;
-    p.text = text;
-    p.textRect = box;
-    TextAttributeList attributes;
-    attributes.addFontSizeAttribute(Range(0, int(text.size())), 12);
-    return std::unique_ptr<BaseCallout>(
-        a.factory(a.theme, kFill, "solid", Point(0, 1), kInk, strokeWidth, "solid", box, progress, p, attributes));
+    VantrelTest::CalloutText const t = VantrelTest::calloutText(text, box, 12);
+    return std::unique_ptr<BaseCallout>(a.factory(a.theme, kFill, "solid", Point(0, 1), kInk, strokeWidth, "solid", box,
+                                                  progress, t.properties, t.attributes));
 }
 
-std::vector<std::string> calls(BaseCallout const &c, BaseCallout::DrawOptions options = BaseCallout::DrawOptionAll) {
-    VantrelTest::LoggingContext log;
-    c.drawIntoContext(&log, options, Rect(), -1, nullptr);
-    return log.calls;
-}
+using VantrelTest::drawingCalls;
 
 Rect bounds(Polygons const &p) {
     std::vector<Point> all;
@@ -74,7 +66,7 @@ TEST(TextArrows, FactoriesPassTheProgressToUrbanOnly) {
         SCOPED_TRACE(kAll[i].name);
         // Only the Urban arrows draw differently at another progress.
         bool const urban = kAll[i].theme == Presets::ThemeUrban;
-        EXPECT_EQ(calls(*make(kAll[i], 0, kBox, 0.3, "go")) != calls(*made[i]), urban && i == 6);
+        EXPECT_EQ(drawingCalls(*make(kAll[i], 0, kBox, 0.3, "go")) != drawingCalls(*made[i]), urban && i == 6);
         EXPECT_EQ(made[i]->pathAsPolygons(Rect()).polygons.back()->points ==
                       make(kAll[i], 0, kBox, 0.05)->pathAsPolygons(Rect()).polygons.back()->points,
                   !urban);
@@ -103,10 +95,10 @@ TEST(TextArrows, WhatEachDesignPaints) {
     };
     for (Row const &row : rows) {
         SCOPED_TRACE(std::string(kAll[row.arrow].name) + " width " + std::to_string(row.width));
-        EXPECT_EQ(calls(*make(kAll[row.arrow], row.width, kBox, 1.0, "go"), row.options), row.calls);
+        EXPECT_EQ(drawingCalls(*make(kAll[row.arrow], row.width, kBox, 1.0, "go"), row.options), row.calls);
     }
     // Empty text is not drawn.
-    EXPECT_EQ(calls(*make(kAll[4])), std::vector<std::string>{"fill colour n=1"});
+    EXPECT_EQ(drawingCalls(*make(kAll[4])), std::vector<std::string>{"fill colour n=1"});
     // The Basic pair restore the context when a drawing call throws.
     for (size_t i : {2, 3}) {
         VantrelTest::ThrowingContext context;

@@ -13,8 +13,8 @@ using VantrelTest::expectBoundsMatchInk;
 namespace {
 
 Rect const kBox(-60, -10, 60, 10);
-Color const kFill(0.3f, 0.6f, 0.95f);
-Color const kInk(0.1f, 0.1f, 0.3f);
+using VantrelTest::kFill;
+using VantrelTest::kInk;
 
 struct Kind {
     char const *name;
@@ -27,20 +27,12 @@ Kind const kAll[] = {{"AbstractTextRectangle", Presets::ThemeAbstract},
 
 std::unique_ptr<TextCallout> make(Kind const &k, double strokeWidth = 0, Rect box = kBox, std::string const &text = "",
                                   Color fill = kFill) {
-    TextCalloutProperties p;
-    p.text = text;
-    p.textRect = box;
-    TextAttributeList a;
-    a.addFontSizeAttribute(Range(0, int(text.size())), 12);
-    return std::unique_ptr<TextCallout>(dynamic_cast<TextCallout *>(
-        Presets::createTextRectangle(k.theme, fill, "solid", Point(0, 1), kInk, strokeWidth, "solid", box, p, a)));
+    VantrelTest::CalloutText const t = VantrelTest::calloutText(text, box, 12);
+    return std::unique_ptr<TextCallout>(dynamic_cast<TextCallout *>(Presets::createTextRectangle(
+        k.theme, fill, "solid", Point(0, 1), kInk, strokeWidth, "solid", box, t.properties, t.attributes)));
 }
 
-std::vector<std::string> calls(BaseCallout const &c, BaseCallout::DrawOptions options) {
-    VantrelTest::LoggingContext log;
-    c.drawIntoContext(&log, options, Rect(), -1, nullptr);
-    return log.calls;
-}
+using VantrelTest::drawingCalls;
 
 // Exposes the bounds cache.
 class ProbedUrban : public UrbanTextRectangle {
@@ -68,11 +60,12 @@ TEST(TextRectangles, WhatEachPaints) {
     };
     for (Row const &row : rows) {
         SCOPED_TRACE(std::string(kAll[row.kind].name) + " options " + std::to_string(row.options));
-        EXPECT_EQ(calls(*make(kAll[row.kind], 0, kBox, "words"), row.options), row.calls);
+        EXPECT_EQ(drawingCalls(*make(kAll[row.kind], 0, kBox, "words"), row.options), row.calls);
     }
     std::unique_ptr<TextCallout> urban = make(kAll[3], 2);
     EXPECT_EQ(urban->bodyPathAsPolygons(Rect()).polygons.size(), urban->pathAsPolygons(Rect()).polygons.size());
-    EXPECT_EQ(calls(*make(kAll[1], 2), BaseCallout::DrawOptionAll), (Calls{"fill colour n=1", "stroke solid n=1"}));
+    EXPECT_EQ(drawingCalls(*make(kAll[1], 2), BaseCallout::DrawOptionAll),
+              (Calls{"fill colour n=1", "stroke solid n=1"}));
 }
 
 TEST(TextRectangles, PanelsStandWhereTheBoxSays) {

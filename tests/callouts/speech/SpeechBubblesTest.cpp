@@ -14,8 +14,8 @@ using VantrelTest::expectBoundsMatchInk;
 namespace {
 
 Rect const kBox(-70, -25, 70, 25);
-Color const kFill(0.3f, 0.6f, 0.95f);
-Color const kInk(0.1f, 0.1f, 0.3f);
+using VantrelTest::kFill;
+using VantrelTest::kInk;
 
 using Factory = BaseCallout *(*)(Presets::Theme, Color const &, std::string const &, Point const &, Color const &,
                                  double, std::string const &, Rect const &, Point const &,
@@ -29,13 +29,9 @@ Presets::Theme const kThemes[] = {Presets::ThemeBasic, Presets::ThemeUrban, Pres
 
 std::unique_ptr<BaseCallout> bubble(Design const &d, Presets::Theme theme, Point tail, double strokeWidth = 0,
                                     Rect box = kBox, std::string const &text = "") {
-    TextCalloutProperties p;
-    p.text = text;
-    p.textRect = box;
-    TextAttributeList a;
-    a.addFontSizeAttribute(Range(0, int(text.size())), 14);
-    return std::unique_ptr<BaseCallout>(
-        d.make(theme, kFill, "gradient", Point(0, 1), kInk, strokeWidth, "solid", box, tail, p, a));
+    VantrelTest::CalloutText const t = VantrelTest::calloutText(text, box, 14);
+    return std::unique_ptr<BaseCallout>(d.make(theme, kFill, "gradient", Point(0, 1), kInk, strokeWidth, "solid", box,
+                                               tail, t.properties, t.attributes));
 }
 
 size_t contours(Polygons const &p) {

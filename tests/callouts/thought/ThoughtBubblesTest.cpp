@@ -15,8 +15,8 @@ using VantrelTest::expectBoundsMatchInk;
 namespace {
 
 Rect const kBox(-60, -20, 60, 20);
-Color const kFill(0.3f, 0.6f, 0.95f);
-Color const kInk(0.1f, 0.1f, 0.3f);
+using VantrelTest::kFill;
+using VantrelTest::kInk;
 
 CalloutProperties style(double strokeWidth, std::string const &fillStyle = "solid") {
     return CalloutProperties(kFill, fillStyle, Point(0, 1), kInk, strokeWidth, "solid");
