@@ -45,6 +45,14 @@ inline CalloutText calloutText(std::string const &text, Vantrel::Rect const &box
     return t;
 }
 
+// The box of every point of an outline.
+inline Vantrel::Rect outlineBounds(Vantrel::Polygons const &outline) {
+    std::vector<Vantrel::Point> all;
+    for (auto const &polygon : outline.polygons)
+        all.insert(all.end(), polygon->points.begin(), polygon->points.end());
+    return Vantrel::Rect::BoundingRectOfPoints(all);
+}
+
 // The drawing calls a callout makes, one line each (LoggingContext).
 inline std::vector<std::string>
 drawingCalls(Vantrel::BaseCallout const &callout,

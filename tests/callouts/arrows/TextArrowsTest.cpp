@@ -49,12 +49,7 @@ std::unique_ptr<BaseCallout> make(Arrow const &a, double strokeWidth = 0, Rect b
 
 using VantrelTest::drawingCalls;
 
-Rect bounds(Polygons const &p) {
-    std::vector<Point> all;
-    for (auto const &q : p.polygons)
-        all.insert(all.end(), q->points.begin(), q->points.end());
-    return Rect::BoundingRectOfPoints(all);
-}
+using VantrelTest::outlineBounds;
 
 } // namespace
 
@@ -133,14 +128,14 @@ TEST(TextArrows, OutlinesFollowTheirConstructions) {
     double const total = W - q + L + H * 0.5;
     double const v = 56 + (-W * 0.5 - H * 0.5 + (W * 0.5 - q + L)) * 0.5; // the shaft is not grown on the left
     std::unique_ptr<BaseCallout> basic = make(kAll[2], 0, box);
-    Rect const whole = bounds(basic->bodyPathAsPolygons(Rect()));
-    Rect const narrow = bounds(basic->bodyPathAsPolygons(Rect(0, 0, 90, 0)));
-    Rect const low = bounds(basic->bodyPathAsPolygons(Rect(0, 0, 0, 50)));
+    Rect const whole = outlineBounds(basic->bodyPathAsPolygons(Rect()));
+    Rect const narrow = outlineBounds(basic->bodyPathAsPolygons(Rect(0, 0, 90, 0)));
+    Rect const low = outlineBounds(basic->bodyPathAsPolygons(Rect(0, 0, 0, 50)));
     double const sx = 90 / total;
     EXPECT_NEAR(narrow.Center().x - v, (whole.Center().x - v) * sx, 1e-6);
     EXPECT_NEAR(narrow.Width(), whole.Width() * sx, 1e-6);
     EXPECT_NEAR(low.Height(), whole.Height() * 50 / k, 1e-6);
-    EXPECT_EQ(bounds(basic->bodyPathAsPolygons(Rect(0, 0, total, k))), whole); // both limits strict
+    EXPECT_EQ(outlineBounds(basic->bodyPathAsPolygons(Rect(0, 0, total, k))), whole); // both limits strict
 }
 
 TEST(TextArrows, TheRevealGridAtItsLandmarks) {

@@ -73,12 +73,7 @@ size_t contours(Polygons const &p) {
     return n;
 }
 
-Rect bounds(Polygons const &p) {
-    std::vector<Point> all;
-    for (auto const &q : p.polygons)
-        all.insert(all.end(), q->points.begin(), q->points.end());
-    return Rect::BoundingRectOfPoints(all);
-}
+using VantrelTest::outlineBounds;
 
 } // namespace
 
@@ -121,7 +116,7 @@ TEST(ThoughtBubbles, FactoriesPickTheClassByThemeWithAUniformCloud) {
                 std::unique_ptr<TextCallout> direct = make(m, Point(90, 80), 0, wide);
                 EXPECT_EQ(typeid(*made), typeid(*direct));
                 // The Basic clouds come uniform.
-                EXPECT_EQ(bounds(made->pathAsPolygons(Rect())), bounds(direct->pathAsPolygons(Rect())));
+                EXPECT_EQ(outlineBounds(made->pathAsPolygons(Rect())), outlineBounds(direct->pathAsPolygons(Rect())));
             }
     }
     for (Factory f : {Presets::createThoughtBubble, Presets::createThoughtBubbleTwo})
@@ -195,7 +190,7 @@ TEST(ThoughtBubbles, TheBasicPairKeepCloudAndTailsApart) {
     // A uniform cloud has the same proportions for a wide box and a tall one;
     // a stretched one follows the box.
     auto ratio = [&](bool uniform, Rect const &box) {
-        Rect r = bounds(BasicThoughtBubble(box, flat, {}, uniform).bodyPathAsPolygons(Rect()));
+        Rect r = outlineBounds(BasicThoughtBubble(box, flat, {}, uniform).bodyPathAsPolygons(Rect()));
         return r.Width() / r.Height();
     };
     Rect const wide(-100, -10, 100, 10), tall(-10, -100, 10, 100);
@@ -213,8 +208,8 @@ TEST(ThoughtBubbles, OutlinesFollowTheirConstructions) {
     Rect const wide(-100, -10, 100, 10), tall(-10, -50, 10, 50);
     Polygons const w = make(kAll[1], Point(5, 3), 1, wide)->pathAsPolygons(Rect());
     Polygons const t = make(kAll[1], Point(5, 3), 1, tall)->pathAsPolygons(Rect());
-    EXPECT_EQ(bounds(w), bounds(t));
-    EXPECT_NEAR(bounds(w).Width(), 200 * 1.15 + 24 + 2 * 254 / 5.5, 1.0); // rim circles out of the sides
+    EXPECT_EQ(outlineBounds(w), outlineBounds(t));
+    EXPECT_NEAR(outlineBounds(w).Width(), 200 * 1.15 + 24 + 2 * 254 / 5.5, 1.0); // rim circles out of the sides
 }
 
 TEST(ThoughtBubbles, PixelsOfTheBodies) {
