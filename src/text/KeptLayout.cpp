@@ -21,11 +21,20 @@ void release(std::vector<PangoLayout *> const &layouts) {
         g_object_unref(layout);
 }
 
+// The calling thread's record while it lives, and whether it has ended:
+// trivially destructible, so that they still read right when a kept layout
+// goes after the record (a host's static object, at the end of the process).
+thread_local LayoutHome *tLiveHome = nullptr;
+thread_local bool tHomeEnded = false;
+
 // The calling thread's record; on the thread's end it releases what was sent
 // to it and marks itself ended, so that later layouts are released at once.
 struct ThreadHome {
     std::shared_ptr<LayoutHome> home = std::make_shared<LayoutHome>();
+    ThreadHome() { tLiveHome = home.get(); }
     ~ThreadHome() {
+        tLiveHome = nullptr;
+        tHomeEnded = true;
         std::lock_guard<std::mutex> guard(home->mutex);
         home->ended = true;
         release(home->sent);
@@ -34,10 +43,13 @@ struct ThreadHome {
 };
 thread_local ThreadHome tHome;
 
+// The calling thread's record, made at its first use; null once it ended.
+std::shared_ptr<LayoutHome> currentHome() { return tHomeEnded ? nullptr : tHome.home; }
+
 void sendHome(PangoLayout *layout, std::shared_ptr<LayoutHome> const &home) {
     if (!layout)
         return;
-    if (!home || home == tHome.home) {
+    if (!home || home.get() == tLiveHome) {
         g_object_unref(layout);
         return;
     }
@@ -58,12 +70,15 @@ KeptLayout::~KeptLayout() { sendHome(mLayout, mHome); }
 void KeptLayout::reset(PangoLayout *layout) {
     sendHome(mLayout, mHome);
     mLayout = layout;
-    mHome = tHome.home;
+    mHome = currentHome();
 }
 
-bool KeptLayout::isHome() const { return !mLayout || mHome == tHome.home; }
+// A layout built after its thread's record ended has no home but this thread.
+bool KeptLayout::isHome() const { return !mLayout || (mHome ? mHome.get() == currentHome().get() : tHomeEnded); }
 
 void releaseLayoutsSentHome() {
+    if (tHomeEnded)
+        return;
     LayoutHome &home = *tHome.home;
     std::vector<PangoLayout *> sent;
     {
