@@ -256,10 +256,9 @@ double flattenedLength(cairo_t *cr) {
     return length;
 }
 
-// A measuring context needs no dash: the ink of a dashed stroke lies within
-// that of the same stroke continuous. It measures dashes all the same,
-// exactly, up to this many along one stroke; a longer rhythm is measured
-// continuous, whose bounds hold the dashes' ink.
+// A measuring context measures dashes exactly up to this many along one
+// stroke; a longer rhythm is measured continuous, whose ink holds the dashes'
+// but for the caps a dash may put beyond a sharp corner.
 double const kMaxMeasuredDashes = 1e4;
 
 // cairo_stroke, bounded in time. A dash is left out for this one stroke (and

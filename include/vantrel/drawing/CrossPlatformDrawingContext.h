@@ -38,8 +38,9 @@ namespace Vantrel {
 //   hold the ink, generously, wherever cairo cannot measure it;
 // - a recording context measures a dash exactly up to 10,000 dashes along one
 //   stroke; beyond, the stroke counts as continuous, whose ink holds the
-//   dashes' (the bounds of a dotted outline a million pixels round cost no
-//   more than those of a solid one).
+//   dashes' but for a cap that a dash may put beyond a sharp corner, at most
+//   the stroke's width away (the bounds of a dotted outline a million pixels
+//   round cost no more than those of a solid one).
 class VANTREL_EXPORT CrossPlatformDrawingContext : public DrawingContext {
 public:
     explicit CrossPlatformDrawingContext(Bitmap *bitmap);
